@@ -1,0 +1,55 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "core/track_table.h"
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/trash.h"
+#include "ui/windows.h"
+
+namespace velmora::app {
+
+/// What the program asks of the machine, each with a real and a scripted implementation.
+struct Services {
+  platform::Files& files;
+  platform::Trash& trash;
+  platform::Dialogs& dialogs;
+  platform::Desktop& desktop;
+};
+
+/// Where the program keeps its state, and where its shipped files lie when they are not there.
+struct Folders {
+  Text program;
+  Text shipped;
+};
+
+/// The program: owns everything, in order, wires controls to commands, and knows how it starts and ends.
+class Velmora {
+ public:
+  Velmora(const Services& services, Folders folders);
+  ~Velmora();
+  Velmora(const Velmora&) = delete;
+  Velmora& operator=(const Velmora&) = delete;
+
+  /// Raised once when the program has ended; the event loop should then be left.
+  std::function<void()> onEnd;
+
+  /// Loads the table, brings up the window that was in front, and resumes what was interrupted.
+  void start();
+  /// Asks the program to end as closing the Music Base Window does: a running command is stopped first.
+  void requestEnd();
+  bool ended() const;
+
+  ui::Windows& windows();
+  /// The shared model, for tests and benchmarks.
+  core::TrackTable& table();
+
+ private:
+  struct House;
+  std::unique_ptr<House> house_;
+};
+
+}  // namespace velmora::app

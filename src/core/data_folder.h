@@ -1,0 +1,48 @@
+#pragma once
+
+#include <vector>
+
+#include "core/settings.h"
+#include "core/track_table.h"
+#include "platform/files.h"
+
+namespace velmora::core {
+
+/// The folder Data beside Settings.ini: one file per column. Names of files in it compare without regard to
+/// case. No failure is reported: a column that cannot be written loses its file, one that cannot be read ends
+/// with what was read so far.
+class DataFolder {
+ public:
+  /// `programFolder` holds the folder Data, which is made at the first write and no earlier.
+  DataFolder(platform::Files& files, Settings& settings, Text programFolder);
+
+  /// Full path of a file in the folder, in the spelling that it has on disk where it exists.
+  Text path(TextView fileName) const;
+
+  /// Writes elements 1 to the upper bound; a column with no rows removes its file.
+  void writeColumn(TextView fileName, const TrackTable& table, Column column);
+  void writeList(TextView fileName, const std::vector<Text>& list);
+  /// All elements of a file; empty when it is missing.
+  std::vector<Element> readColumn(TextView fileName) const;
+  std::vector<Text> readList(TextView fileName) const;
+  void remove(TextView fileName);
+
+  /// Stores `ghb`, then nizdes, crtapos, niznomusic, bazepesama and autori.
+  void savenizove(const TrackTable& table);
+  /// Writes the fifteen tag columns.
+  void SaveID3nizove(const TrackTable& table);
+  /// File that a column is kept in, such as "crtapos.txt"; empty for `pevac` and `pesma`.
+  static TextView fileOf(Column column);
+
+  /// Steps 1, 2 and 4 to 8 of a start: fills all columns and side lists, and brojfajlova from `ghb`. Deriving
+  /// the name parts is the caller's, between readNames and readTags.
+  void readNames(TrackTable& table) const;
+  void readTags(TrackTable& table) const;
+
+ private:
+  platform::Files& files_;
+  Settings& settings_;
+  Text folder_;
+};
+
+}  // namespace velmora::core

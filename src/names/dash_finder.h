@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/track_table.h"
+#include "review/artist_book.h"
+#include "tags/tag_cache.h"
+
+namespace velmora::names {
+
+/// Finds the dash of rows that enter the list.
+class DashFinder {
+ public:
+  DashFinder(core::TrackTable& table, const review::ArtistBook& artists, tags::TagCache& tags);
+
+  /// Sets the dash position of a row and derives its name parts. A name with two dashes is settled by the
+  /// artist in the file's tags, which are read when they were not yet.
+  void find(int row);
+
+ private:
+  core::TrackTable& table_;
+  const review::ArtistBook& artists_;
+  tags::TagCache& tags_;
+};
+
+}  // namespace velmora::names

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "core/settings.h"
+#include "core/track_table.h"
+#include "platform/files.h"
+
+namespace velmora::review {
+
+/// UndoData.txt beside Settings.ini: a stack of quoted one-line records, the newest last. Each append opens
+/// the file, writes one line and closes it, so a crash loses nothing written so far. This class knows the
+/// file and its records alone; replay stands above it.
+class UndoJournal {
+ public:
+  UndoJournal(platform::Files& files, const core::Settings& settings, Text path);
+
+  /// Raised with the kind after each marker, so that the undo buttons of the window concerned can follow.
+  std::function<void(std::string_view kind)> onMarker;
+
+  /// kind + L(first) + " " + rest, where L is the length in three digits and the text. `kind` has three
+  /// letters.
+  void appendUndoRecord(std::string_view kind, TextView first, TextView rest);
+  /// A stretch of records starts here.
+  void appendUndoMarker(std::string_view kind);
+  /// Kind of the topmost of new, fix, dup, st1, st2, dst and fst; "" when there is none, or without
+  /// Settings.ini. Reads the file from its end, so it costs the length of the top stretch alone.
+  std::string lastUndoMarker() const;
+  bool exists() const;
+  /// Deletes the file, which ends the history.
+  void remove();
+
+ private:
+  platform::Files& files_;
+  const core::Settings& settings_;
+  Text path_;
+};
+
+/// A text with its length in front, as at least three digits.
+Text lengthPrefixed(TextView text);
+/// The flags, tag columns, path and dash position of a row, and the count of rows, as one text.
+Text rowSnapshot(const core::TrackTable& table, int row);
+
+}  // namespace velmora::review

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/files.h"
+
+namespace velmora::system {
+
+/// Files by system calls on native bytes: any file name survives byte for byte.
+class PosixFiles final : public platform::Files {
+ public:
+  platform::FolderListing list(const Text& folder) override;
+  bool fileExists(const Text& path) override;
+  bool folderExists(const Text& path) override;
+  std::uint64_t size(const Text& path) override;
+  std::unique_ptr<platform::OpenFile> open(const Text& path, platform::OpenMode mode) override;
+  std::unique_ptr<platform::OpenFile> create(const Text& path) override;
+  Bytes readAll(const Text& path) override;
+  void writeAll(const Text& path, BytesView bytes) override;
+  void append(const Text& path, BytesView bytes) override;
+  void makeFolder(const Text& path) override;
+  void move(const Text& from, const Text& to) override;
+  void moveFolder(const Text& from, const Text& to) override;
+  void replace(const Text& from, const Text& to) override;
+  void remove(const Text& path) override;
+  void removeEmptyFolder(const Text& path) override;
+  void clearAttributes(const Text& path) override;
+  bool busy(const Text& path) override;
+  Text volumeOf(const Text& path) override;
+  std::uint64_t freeBytes(const Text& path) override;
+};
+
+}  // namespace velmora::system

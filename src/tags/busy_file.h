@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/desktop.h"
+#include "platform/files.h"
+#include "ui/controls.h"
+
+namespace velmora::tags {
+
+/// Waits until no other program holds a file.
+class BusyFile {
+ public:
+  BusyFile(platform::Files& files, platform::Desktop& desktop, ui::Label& statusLabel);
+
+  /// Ends the wait when it answers true: Stop was pressed, or the program is closing.
+  std::function<bool()> givenUp;
+
+  bool FileBusy(const Text& path) const { return files_.busy(path); }
+  /// Shows "File is busy, please wait ..." while the file is held and tests it once a second, letting events
+  /// through. Returns false when the wait was given up.
+  bool waitUntilFree(const Text& path);
+
+ private:
+  platform::Files& files_;
+  platform::Desktop& desktop_;
+  ui::Label& statusLabel_;
+};
+
+}  // namespace velmora::tags

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+
+#include "core/track_table.h"
+#include "platform/dialogs.h"
+#include "platform/file_error.h"
+
+namespace velmora::tags {
+
+/// What a write of a tag came to; the numbers are part of the contract of `Update`.
+enum class UpdateResult { Done = 0, Abort = 1, Ignore = 2 };
+
+/// What a tag needs besides its file to report that it could not be written.
+struct UpdateContext {
+  platform::Dialogs& dialogs;
+  const core::TrackTable& table;  ///< the dialog names the path of its current row
+};
+
+/// Runs `write` and asks after each failure: "Error while Update ID3 V1 " and its like, with Abort, Retry and
+/// Ignore. `version` is "V1" or "V2".
+UpdateResult updateWithDialog(const UpdateContext& context, TextView version,
+                              const std::function<void()>& write);
+
+}  // namespace velmora::tags

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+
+#include "core/track_table.h"
+#include "platform/files.h"
+#include "player/hand_over.h"
+#include "tags/busy_file.h"
+#include "tags/file_panel.h"
+#include "tags/update_result.h"
+#include "ui/form1.h"
+
+namespace velmora::tags {
+
+/// Writes the tag boxes of the panel to the tags of the current row.
+class TagWriter {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    platform::Dialogs& dialogs;
+    platform::Desktop& desktop;
+    player::FileHolder& player;
+    BusyFile& busyFile;
+    FilePanel& panel;
+    ui::Form1& form1;
+  };
+  explicit TagWriter(const Parts& parts) : parts_(parts) {}
+
+  /// Raised after the tags were written, with the snapshot of the row taken before: the undo record "id3".
+  std::function<void(int row, const Text& rowSnapshot)> onWritten;
+
+  /// Which tags are written follows from the check boxes. Only a path that ends in MP3 gets any.
+  void UpdateTags();
+
+ private:
+  Parts parts_;
+};
+
+}  // namespace velmora::tags

@@ -1,0 +1,33 @@
+#include "ui/controls.h"
+
+#include <utility>
+
+namespace velmora::ui {
+
+void TextBox::setText(Text text) {
+  const int end = static_cast<int>(text.size());
+  type(std::move(text), end);
+}
+
+void TextBox::type(Text text, int cursor) {
+  const bool differs = text != text_;
+  if (!differs && cursor == cursor_) return;
+  text_ = std::move(text);
+  cursor_ = cursor;
+  changed();
+  if (differs && onChange) onChange();
+}
+
+void OptionButton::setChosen(bool chosen) {
+  if (!assign(chosen_, chosen) || !chosen) return;
+  for (OptionButton* other : others_) other->setChosen(false);
+  if (onClick) onClick();
+}
+
+void OptionButton::makeGroup(std::initializer_list<OptionButton*> options) {
+  for (OptionButton* option : options)
+    for (OptionButton* other : options)
+      if (other != option) option->others_.push_back(other);
+}
+
+}  // namespace velmora::ui

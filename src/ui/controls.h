@@ -1,0 +1,175 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/text.h"
+#include "ui/observable.h"
+
+namespace velmora::ui {
+
+/// The keys that commands tell apart.
+enum class Key { Up, Down, Enter, Delete, F12, Escape };
+
+struct KeyPress {
+  Key key;
+  bool shift = false;
+};
+
+/// What every control has. A disabled control ignores the user, but code may still change it.
+class Control : public Observable {
+ public:
+  bool enabled() const { return enabled_; }
+  void setEnabled(bool enabled) { assign(enabled_, enabled); }
+  bool visible() const { return visible_; }
+  void setVisible(bool visible) { assign(visible_, visible); }
+
+ protected:
+  ~Control() = default;
+
+ private:
+  bool enabled_ = true;
+  bool visible_ = true;
+};
+
+class Label : public Control {
+ public:
+  const Text& text() const { return text_; }
+  void setText(Text text) { assign(text_, std::move(text)); }
+
+ private:
+  Text text_;
+};
+
+class Button : public Control {
+ public:
+  std::function<void()> onClick;
+  /// Does nothing while the button is disabled or hidden.
+  void click() {
+    if (enabled() && visible() && onClick) onClick();
+  }
+};
+
+/// A line of text. The cursor counts the characters to its left.
+class TextBox : public Control {
+ public:
+  std::function<void()> onChange;
+  /// Returns true when the key was used up and the box must not act on it.
+  std::function<bool(KeyPress)> onKey;
+
+  const Text& text() const { return text_; }
+  /// Puts the cursor behind the text and raises onChange when the text differs.
+  void setText(Text text);
+  /// As the user types: the text and where the cursor stands after it.
+  void type(Text text, int cursor);
+  int cursor() const { return cursor_; }
+  void setCursor(int cursor) { assign(cursor_, cursor); }
+
+ private:
+  Text text_;
+  int cursor_ = 0;
+};
+
+class CheckBox : public Control {
+ public:
+  /// Raised on every change, by the user or by code.
+  std::function<void()> onClick;
+
+  bool checked() const { return checked_; }
+  void setChecked(bool checked) {
+    if (assign(checked_, checked) && onClick) onClick();
+  }
+  /// As the user clicks: flips the mark unless the box is disabled.
+  void click() {
+    if (enabled() && visible()) setChecked(!checked_);
+  }
+
+ private:
+  bool checked_ = false;
+};
+
+/// One of several that exclude each other; none of a group may be set.
+class OptionButton : public Control {
+ public:
+  /// Raised when the option becomes set, by the user or by code.
+  std::function<void()> onClick;
+
+  bool chosen() const { return chosen_; }
+  /// Setting one clears the others of its group.
+  void setChosen(bool chosen);
+  void click() {
+    if (enabled() && visible()) setChosen(true);
+  }
+  static void makeGroup(std::initializer_list<OptionButton*> options);
+
+ private:
+  bool chosen_ = false;
+  std::vector<OptionButton*> others_;
+};
+
+struct ComboRow {
+  Text text;
+  int itemData = 0;
+  bool operator==(const ComboRow&) const = default;
+};
+
+/// A text box with a list of proposals; any text may be typed.
+class ComboBox : public Control {
+ public:
+  std::function<void()> onChange;
+
+  const Text& text() const { return text_; }
+  void setText(Text text) {
+    if (assign(text_, std::move(text)) && onChange) onChange();
+  }
+  const std::vector<ComboRow>& rows() const { return rows_; }
+  void setRows(std::vector<ComboRow> rows) { assign(rows_, std::move(rows)); }
+
+ private:
+  Text text_;
+  std::vector<ComboRow> rows_;
+};
+
+/// A tree of the machine's folders with one of them shown.
+class FolderBox : public Control {
+ public:
+  /// Raised when the user clicks a folder.
+  std::function<void()> onClick;
+
+  const Text& path() const { return path_; }
+  /// Shows a folder; one that does not exist leaves the tree at its nearest parent.
+  void setPath(Text path) { assign(path_, std::move(path)); }
+  void click(Text path) {
+    setPath(std::move(path));
+    if (onClick) onClick();
+  }
+
+ private:
+  Text path_;
+};
+
+/// A knob on a track; the share of the track runs from 0 to 1.
+class Slider : public Control {
+ public:
+  std::function<void()> onPress;
+  std::function<void()> onMove;
+  std::function<void()> onRelease;
+
+  double share() const { return share_; }
+  void setShare(double share) { assign(share_, share); }
+
+ private:
+  double share_ = 0;
+};
+
+/// Percentage of a job done, 0 to 100.
+class ProgressBar : public Control {
+ public:
+  double percent() const { return percent_; }
+  void setPercent(double percent) { assign(percent_, percent); }
+
+ private:
+  double percent_ = 0;
+};
+
+}  // namespace velmora::ui

@@ -1,0 +1,134 @@
+#include "ui/list_box.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/text.h"
+
+namespace velmora::ui {
+
+const Text& ListBox::List(int index) const {
+  static const Text empty;
+  return valid(index) ? rows_[static_cast<std::size_t>(index)].text : empty;
+}
+
+void ListBox::setList(int index, Text text) {
+  if (!valid(index)) return;
+  rows_[static_cast<std::size_t>(index)].text = std::move(text);
+  changed();
+}
+
+int ListBox::ItemData(int index) const {
+  return valid(index) ? rows_[static_cast<std::size_t>(index)].data : 0;
+}
+
+void ListBox::setItemData(int index, int data) {
+  if (valid(index)) rows_[static_cast<std::size_t>(index)].data = data;
+}
+
+int ListBox::AddItem(Text text, int data) {
+  int index = ListCount();
+  if (sorted_) {
+    const auto place = std::ranges::upper_bound(rows_, core::upper(text), {},
+                                                [](const Row& row) { return core::upper(row.text); });
+    index = static_cast<int>(place - rows_.begin());
+  }
+  insertItem(index, std::move(text), data);
+  return index;
+}
+
+void ListBox::insertItem(int index, Text text, int data) {
+  index = std::clamp(index, 0, ListCount());
+  rows_.insert(rows_.begin() + index, Row{std::move(text), data, false});
+  if (listIndex_ >= index) ++listIndex_;
+  changed();
+}
+
+void ListBox::RemoveItem(int index) {
+  if (!valid(index)) return;
+  if (Selected(index)) --selCount_;
+  rows_.erase(rows_.begin() + index);
+  if (listIndex_ > index) --listIndex_;
+  if (listIndex_ >= ListCount()) listIndex_ = ListCount() - 1;
+  topIndex_ = std::clamp(topIndex_, 0, std::max(ListCount() - 1, 0));
+  changed();
+}
+
+void ListBox::Clear() {
+  if (rows_.empty()) return;
+  fill({});
+}
+
+void ListBox::fill(std::vector<Text> texts) {
+  rows_.clear();
+  rows_.reserve(texts.size());
+  for (Text& text : texts) rows_.push_back(Row{std::move(text), 0, false});
+  selCount_ = 0;
+  listIndex_ = -1;
+  topIndex_ = 0;
+  changed();
+}
+
+bool ListBox::Selected(int index) const {
+  return valid(index) && rows_[static_cast<std::size_t>(index)].selected;
+}
+
+bool ListBox::mark(int index, bool selected) {
+  if (!valid(index) || Selected(index) == selected) return false;
+  rows_[static_cast<std::size_t>(index)].selected = selected;
+  selCount_ += selected ? 1 : -1;
+  return true;
+}
+
+void ListBox::setSelected(int index, bool selected) {
+  if (!valid(index)) return;
+  if (selected && selection_ == Selection::Single)
+    for (const int other : selectedIndexes())
+      if (other != index) mark(other, false);
+  const bool differs = mark(index, selected);
+  if (selected) listIndex_ = index;
+  if (!differs) return;
+  changed();
+  clicked();
+}
+
+std::vector<int> ListBox::selectedIndexes() const {
+  std::vector<int> indexes;
+  indexes.reserve(static_cast<std::size_t>(selCount_));
+  if (selCount_ == 0) return indexes;
+  for (int index = 0; index < ListCount(); ++index)
+    if (rows_[static_cast<std::size_t>(index)].selected) indexes.push_back(index);
+  return indexes;
+}
+
+void ListBox::clearSelection() {
+  if (selCount_ == 0) return;
+  for (Row& row : rows_) row.selected = false;
+  selCount_ = 0;
+  changed();
+  clicked();
+}
+
+void ListBox::select(const std::vector<int>& indexes, int current) {
+  if (!enabled()) return;
+  if (selCount_ > 0)
+    for (Row& row : rows_) row.selected = false;
+  selCount_ = 0;
+  for (const int index : indexes) mark(index, true);
+  if (valid(current)) listIndex_ = current;
+  changed();
+  clicked();
+}
+
+void ListBox::setListIndex(int index) {
+  if (index == listIndex_ || index < -1 || index >= ListCount()) return;
+  if (selection_ == Selection::Single && index >= 0) return setSelected(index, true);
+  listIndex_ = index;
+  changed();
+}
+
+void ListBox::setTopIndex(int index) {
+  assign(topIndex_, std::clamp(index, 0, std::max(ListCount() - 1, 0)));
+}
+
+}  // namespace velmora::ui

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/text.h"
+#include "ui/controls.h"
+
+namespace velmora::ui {
+
+/// A list of texts with one integer of item data each. Indexes count from 0; an index outside the list reads
+/// as an empty row and changes nothing.
+///
+/// Selecting by code raises onClick just as the user's click does: what must keep quiet meanwhile tests
+/// `puniliste` or its window's busy mark. The view hears of any number of changes as one notice (see
+/// Observable), so filling a list of 100,000 rows costs one repaint.
+class ListBox : public Control {
+ public:
+  enum class Selection { Single, Multi };
+
+  explicit ListBox(Selection selection = Selection::Multi, bool sorted = false)
+      : selection_(selection), sorted_(sorted) {}
+
+  std::function<void()> onClick;
+  std::function<void()> onDoubleClick;
+  /// Returns true when the key was used up.
+  std::function<bool(KeyPress)> onKey;
+
+  int ListCount() const { return static_cast<int>(rows_.size()); }
+  const Text& List(int index) const;
+  void setList(int index, Text text);
+  int ItemData(int index) const;
+  void setItemData(int index, int data);
+
+  /// Adds a row at the end, or at its place in a sorted list (compared without regard to case). Returns the
+  /// index it got.
+  int AddItem(Text text, int data = 0);
+  /// Adds a row before `index`, whatever the order.
+  void insertItem(int index, Text text, int data = 0);
+  void RemoveItem(int index);
+  void Clear();
+  /// Replaces all rows at once, none selected.
+  void fill(std::vector<Text> texts);
+
+  bool Selected(int index) const;
+  /// In a single-selection list, selecting one row takes the mark off the others.
+  void setSelected(int index, bool selected);
+  int SelCount() const { return selCount_; }
+  /// The selected rows, ascending.
+  std::vector<int> selectedIndexes() const;
+  /// Takes all marks off, raising one click when there were any.
+  void clearSelection();
+  /// As the user selects: exactly these rows, `current` last clicked, one click.
+  void select(const std::vector<int>& indexes, int current);
+
+  /// Row with the focus; -1 when there is none. Setting it by code marks the row in a single-selection list.
+  int ListIndex() const { return listIndex_; }
+  void setListIndex(int index);
+  /// First row in sight. A number beyond the list counts as its last row.
+  int TopIndex() const { return topIndex_; }
+  void setTopIndex(int index);
+
+  Selection selection() const { return selection_; }
+  void doubleClick() {
+    if (enabled() && onDoubleClick) onDoubleClick();
+  }
+
+ private:
+  struct Row {
+    Text text;
+    int data = 0;
+    bool selected = false;
+  };
+
+  bool valid(int index) const { return index >= 0 && index < ListCount(); }
+  bool mark(int index, bool selected);
+  void clicked() {
+    if (onClick) onClick();
+  }
+
+  Selection selection_;
+  bool sorted_;
+  std::vector<Row> rows_;
+  int selCount_ = 0;
+  int listIndex_ = -1;
+  int topIndex_ = 0;
+};
+
+}  // namespace velmora::ui

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/dialog1.h"
+#include "ui/dialog2.h"
+#include "ui/form1.h"
+#include "ui/form3.h"
+#include "ui/form5.h"
+#include "ui/form6.h"
+#include "ui/form7.h"
+#include "ui/form8.h"
+#include "ui/frm_tip.h"
+
+namespace velmora::ui {
+
+/// Every window of the program, made once. Options that commands read live in their windows.
+struct Windows {
+  Form1 form1;
+  Form3 form3;
+  Form5 form5;
+  Form6 form6;
+  Form7 form7;
+  Form8 form8;
+  Dialog1 dialog1;
+  Dialog2 dialog2;
+  FrmTip frmTip;
+  FrmAbout frmAbout;
+};
+
+}  // namespace velmora::ui
