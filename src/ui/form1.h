@@ -20,7 +20,13 @@ struct TagPanel {
 
 /// The Processing Window: the working list, the file panel and the tools on names and tags.
 struct Form1 : Window {
-  Form1() : Window(u"Processing Window") { OptionButton::makeGroup({&muzickiFajlovi, &ostali}); }
+  Form1() : Window(u"Processing Window") {
+    OptionButton::makeGroup({&muzickiFajlovi, &ostali});
+    muzickiFajlovi.setChosen(true);
+    ostali.setEnabled(false);
+    List3.setVisible(false);
+    preview.setShare(1);
+  }
 
   // Making the list.
   FolderBox folderTree;  ///< the folder that Add works on
@@ -34,6 +40,9 @@ struct Form1 : Window {
   Label statusLabel;            ///< what the program waits for or plays
   Button options;               ///< opens Form5
   Button fixOptions;            ///< opens Dialog2
+  Button checkFixOptions;       ///< opens Form6
+  Button duplicateOptions;      ///< opens Form7
+  Button about;                 ///< opens frmAbout
 
   ListBox List4;                                   ///< the working list: row i of the table at index i - 1
   ListBox List1{ListBox::Selection::Multi, true};  ///< artists, in Artist List mode

@@ -9,12 +9,13 @@ namespace velmora::ui {
 struct Form7 : Window {
   Form7() : Window(u"Find Duplicates - Settings") {
     OptionButton::makeGroup({&similarFilename, &completeTheSame, &differentFilename});
+    similarFilename.setChosen(true);
   }
 
   OptionButton similarFilename;    ///< `dupli`
   OptionButton completeTheSame;    ///< `duplk`, "Complete the same   (Without numbers)"
   OptionButton differentFilename;  ///< "Different filename"
-  CheckBox sameFilesize;           ///< `samefs`, "Same filesize"
+  CheckBox sameFilesize;           ///< `samefs`, "Same filesize"; ticked and disabled by "Different filename"
   Button ok, cancel;
 };
 

@@ -5,9 +5,9 @@
 
 namespace velmora::ui {
 
-/// "Tip of the Day".
+/// "Tip of the Day", with the heading "Did you know...".
 struct FrmTip : Window {
-  FrmTip() : Window(u"Tip of the Day") {}
+  FrmTip() : Window(u"Tip of the Day") { showAtStartup.setChecked(true); }
 
   Label tip;
   CheckBox showAtStartup;  ///< "&Show Tips at Startup"

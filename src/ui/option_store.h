@@ -5,8 +5,9 @@
 
 namespace velmora::ui {
 
-/// Carries the options between Settings.ini and the windows whose controls are their live store. A key that
-/// is missing or empty leaves its control as it is; the constructor puts all controls in their design state.
+/// Carries the options between Settings.ini and the windows whose controls are their live store. Each load
+/// puts the design state first, so that a key that is missing or empty leaves its control there; the
+/// constructor puts all controls in their design state.
 class OptionStore {
  public:
   OptionStore(core::Settings& settings, Windows& windows);
@@ -19,6 +20,10 @@ class OptionStore {
   void saveForm7();
   void loadDialog2();
   void saveDialog2();
+
+  /// Puts "Same filesize" in step with the option that was chosen: "Different filename" ticks and disables
+  /// it, the other two enable it and bring its stored state back.
+  void ruleOfForm7Chosen();
 
  private:
   core::Settings& settings_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 
 #include "core/track_table.h"
 #include "platform/desktop.h"
@@ -14,8 +15,8 @@ class Progress {
  public:
   Progress(core::TrackTable& table, Windows& windows, platform::Desktop& desktop);
 
-  /// Pumps events, clears Stop, disables the Processing Window and shows Dialog1 with `text`, unless the
-  /// Processing Window is minimised.
+  /// Disables the Processing Window, pumps events, and shows Dialog1 with `text` unless the Processing Window
+  /// is minimised. The first call of a run clears Stop and empties the bar.
   void show(Text text);
   /// Changes the text of a progress window that is shown.
   void setText(Text text) { windows_.dialog1.text.setText(std::move(text)); }
@@ -24,17 +25,21 @@ class Progress {
   void UpdateProgress(double percent);
   /// Gives way to the window system at once.
   void pump();
-  /// Hides Dialog1 and puts the windows back; the Processing Window stays disabled until `moze`.
+  /// Ends the run: hides Dialog1 and puts minimised windows back. The Processing Window stays disabled until
+  /// `moze`.
   void close();
+  /// Whether a run is on, be its window in sight or not.
   bool shown() const { return running_; }
 
   /// The buttons of Dialog1.
   void minimize();
   void stop() { table_.Stop = true; }
-  /// When the Processing Window is brought back while a progress window is hidden.
+  /// The window that was minimised is brought back while the progress window is hidden.
   void restore();
 
  private:
+  bool inProcessingWindow() const { return table_.aktivniprozor == 1; }
+
   core::TrackTable& table_;
   Windows& windows_;
   platform::Desktop& desktop_;

@@ -9,7 +9,8 @@ namespace velmora::ui {
 
 enum class WindowState { Normal, Minimised, Maximised };
 
-/// Place and size in twips (1/1440 inch).
+/// Place and size in twips (1/1440 inch). A width of 0 leaves the size to the view; with left and top 0 as
+/// well it leaves the place to the view too. The view keeps a window on the screen whatever is asked.
 struct Placement {
   int left = 0;
   int top = 0;
@@ -17,6 +18,11 @@ struct Placement {
   int height = 0;
   bool operator==(const Placement&) const = default;
 };
+
+/// Where a window of design size goes when no place was stored: near the middle of a screen, in twips.
+inline Placement nearMiddle(int screenWidth, int screenHeight) {
+  return {screenWidth / 2 - 6000, screenHeight / 2 - 3000, 0, 0};
+}
 
 /// What every window has besides its controls. Windows start hidden and enabled. A disabled window lets
 /// nothing through to its controls.
@@ -26,6 +32,8 @@ class Window : public Observable {
 
   /// Raised when the user brings the window to the front.
   std::function<void()> onActivate;
+  /// Raised when the window loses the front.
+  std::function<void()> onDeactivate;
   /// Raised when the user asks to close the window, or closeRequest is called; without it the window hides.
   std::function<void()> onCloseRequest;
 
@@ -38,7 +46,8 @@ class Window : public Observable {
   void setState(WindowState state) { assign(state_, state); }
   const Text& caption() const { return caption_; }
   void setCaption(Text caption) { assign(caption_, std::move(caption)); }
-  /// Place of the window when it is neither minimised nor maximised; no width before a view or code set it.
+  /// Place of the window when it is neither minimised nor maximised. The view keeps it up to date as the user
+  /// moves and sizes the window.
   const Placement& placement() const { return placement_; }
   void setPlacement(const Placement& placement) { assign(placement_, placement); }
   /// Asks the view for the front and the focus; counts the requests.
