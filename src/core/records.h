@@ -12,12 +12,13 @@ namespace velmora::core::records {
 
 /// Adds one record with its line end to `out`.
 void write(Bytes& out, const Element& element);
-/// Adds one quoted text with its line end to `out`. A double quote inside ends the text on reading.
+/// Adds one quoted text with its line end to `out`. A double quote inside ends the text on reading; a text
+/// with a line break behind that quote is cut at the break.
 void writeText(Bytes& out, TextView text);
 
 /// Reads records one after the other out of `bytes`, which must outlive the reader. Reads any bytes: a text
-/// with no closing quote runs to the end, an unquoted field to the next comma or line end, a line end may be
-/// CR LF, LF or CR.
+/// runs to its closing quote, or to the end where that is missing, and the rest of the quote's line is passed
+/// over; an unquoted field runs to the next comma or line end; a line end may be CR LF, LF or CR.
 class Reader {
  public:
   explicit Reader(BytesView bytes);
@@ -29,7 +30,7 @@ class Reader {
  private:
   Element quoted();
   Element unquoted();
-  void endField();
+  void endLine();
 
   BytesView bytes_;
   std::size_t at_ = 0;

@@ -1,0 +1,43 @@
+#include "core/paths.h"
+
+#include "core/text.h"
+
+namespace velmora::core::paths {
+
+const char16_t separator = u'/';
+
+Text withSeparator(TextView folder) {
+  Text out(folder);
+  if (out.empty() || out.back() != separator) out += separator;
+  return out;
+}
+
+Text join(TextView folder, TextView name) {
+  Text out;
+  out.reserve(folder.size() + 1 + name.size());
+  out += folder;
+  if (out.empty() || out.back() != separator) out += separator;
+  return out += name;
+}
+
+TextView fileName(TextView path) {
+  return path.substr(path.rfind(separator) + 1);  // npos + 1 is 0
+}
+
+TextView folderPart(TextView path) {
+  return path.substr(0, path.rfind(separator) + 1);
+}
+
+TextView bareName(TextView path) {
+  return dropRight(fileName(path), 4);
+}
+
+Text lastThree(TextView path) {
+  return lower(right(path, 3));
+}
+
+bool fitsRecord(TextView name) {
+  return name.find_first_of(u"\"\r\n") == TextView::npos;
+}
+
+}  // namespace velmora::core::paths

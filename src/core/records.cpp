@@ -1,0 +1,106 @@
+#include "core/records.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/text.h"
+#include "core/utf8.h"
+
+namespace velmora::core::records {
+
+namespace {
+
+constexpr BytesView lineEnd = "\r\n";
+constexpr BytesView trueMark = "#TRUE#";
+constexpr BytesView falseMark = "#FALSE#";
+
+/// The part of a text that a record brings back whole. A quote ends the text on reading, and the rest of its
+/// line is passed over; a line break behind the quote would make a record of its own out of the rest, and
+/// so shift all rows below.
+TextView carried(TextView text) {
+  const std::size_t quote = text.find(u'"');
+  if (quote == TextView::npos) return text;
+  return text.substr(0, text.find_first_of(u"\r\n", quote));
+}
+
+}  // namespace
+
+void write(Bytes& out, const Element& element) {
+  if (element.isText()) {
+    writeText(out, element.text());
+    return;
+  }
+  if (element.isBoolean()) out += element.isTrue() ? trueMark : falseMark;
+  out += lineEnd;
+}
+
+void writeText(Bytes& out, TextView text) {
+  out += '"';
+  utf8::append(out, carried(text));
+  out += '"';
+  out += lineEnd;
+}
+
+Reader::Reader(BytesView bytes) : bytes_(bytes) {}
+
+std::optional<Element> Reader::next() {
+  torn_ = false;
+  if (at_ >= bytes_.size()) return std::nullopt;
+  const std::size_t start = bytes_.find_first_not_of(' ', at_);
+  if (start == BytesView::npos) {
+    at_ = bytes_.size();
+    return Element();
+  }
+  at_ = start;
+  return bytes_[at_] == '"' ? quoted() : unquoted();
+}
+
+Element Reader::quoted() {
+  const std::size_t from = at_ + 1;
+  const std::size_t quote = bytes_.find('"', from);
+  if (quote == BytesView::npos) {
+    torn_ = true;
+    at_ = bytes_.size();
+    return fromBytes(bytes_.substr(from));
+  }
+  // What stands between the quote and the line end can only be the rest of a text with a quote inside.
+  at_ = std::min(bytes_.find_first_of(lineEnd, quote), bytes_.size());
+  endLine();
+  return fromBytes(bytes_.substr(from, quote - from));
+}
+
+Element Reader::unquoted() {
+  const std::size_t from = at_;
+  at_ = std::min(bytes_.find_first_of(",\r\n", from), bytes_.size());
+  const BytesView field = bytes_.substr(from, at_ - from);
+  if (at_ < bytes_.size() && bytes_[at_] == ',') {
+    ++at_;
+  } else {
+    endLine();
+  }
+  if (field.empty()) return {};
+  if (field == trueMark) return true;
+  if (field == falseMark) return false;
+  return fromBytes(field);
+}
+
+void Reader::endLine() {
+  if (at_ < bytes_.size() && bytes_[at_] == '\r') ++at_;
+  if (at_ < bytes_.size() && bytes_[at_] == '\n') ++at_;
+}
+
+std::vector<Element> readAll(BytesView bytes) {
+  std::vector<Element> elements;
+  Reader reader(bytes);
+  while (auto element = reader.next()) elements.push_back(std::move(*element));
+  return elements;
+}
+
+std::vector<Text> readTexts(BytesView bytes) {
+  std::vector<Text> texts;
+  Reader reader(bytes);
+  while (const auto element = reader.next()) texts.push_back(element->text());
+  return texts;
+}
+
+}  // namespace velmora::core::records

@@ -1,0 +1,305 @@
+#include "system/posix_files.h"
+
+#include <algorithm>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <limits.h>
+#include <memory>
+#include <stdlib.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <utility>
+
+#include "core/text.h"
+#include "platform/file_error.h"
+#include "system/descriptor.h"
+#include "system/posix_error.h"
+#include "system/posix_move.h"
+#include "system/posix_open_file.h"
+
+namespace velmora::system {
+
+using platform::EntryKind;
+using platform::FileError;
+
+namespace {
+
+constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+
+/// A file that nobody may write is read-only for the superuser, too: it is a mark that a user has set.
+bool markedReadOnly(const struct stat& status) {
+  return (status.st_mode & anyWrite) == 0;
+}
+
+struct stat statusOf(const Bytes& path) {
+  struct stat status;
+  if (::stat(path.c_str(), &status) != 0) throwErrno(path);
+  return status;
+}
+
+/// Opens what must be a regular file. Anything else is refused unopened, since to open a pipe or a device is
+/// to do something to it; O_NONBLOCK covers the moment between the look and the opening.
+Descriptor openRegular(const Bytes& path, int flags) {
+  const struct stat status = statusOf(path);
+  if (!S_ISREG(status.st_mode)) throw FileError(FileError::pathAccess);
+  if (flags != O_RDONLY && markedReadOnly(status)) throw FileError(FileError::permissionDenied);
+  Descriptor file(untilDone([&] { return ::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC); }));
+  if (!file.valid()) throwErrno(path);
+  return file;
+}
+
+Descriptor createFile(const Bytes& path, int flags) {
+  Descriptor file(
+      untilDone([&] { return ::open(path.c_str(), flags | O_CREAT | O_EXCL | O_CLOEXEC, 0666); }));
+  if (!file.valid()) throwErrno(path);
+  return file;
+}
+
+/// A file of the program's own, made where it is missing.
+Descriptor openOwn(const Bytes& path, int flags) {
+  struct stat status;
+  if (::stat(path.c_str(), &status) == 0) return openRegular(path, flags);
+  // A dangling link is followed to the file that it stands for.
+  Descriptor file(
+      untilDone([&] { return ::open(path.c_str(), flags | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666); }));
+  if (!file.valid()) throwErrno(path);
+  return file;
+}
+
+std::uint64_t sizeOf(const Descriptor& file, const Bytes& path) {
+  struct stat status;
+  if (::fstat(file.get(), &status) != 0) throwErrno(path);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+EntryKind kindOf(mode_t mode) {
+  if (S_ISREG(mode)) return EntryKind::File;
+  return S_ISDIR(mode) ? EntryKind::Folder : EntryKind::Other;
+}
+
+EntryKind kindOf(int folder, const dirent& entry) {
+  switch (entry.d_type) {
+    case DT_REG:
+      return EntryKind::File;
+    case DT_DIR:
+      return EntryKind::Folder;
+    case DT_LNK:
+    case DT_UNKNOWN: {
+      struct stat status;
+      return ::fstatat(folder, entry.d_name, &status, 0) == 0 ? kindOf(status.st_mode) : EntryKind::Other;
+    }
+    default:
+      return EntryKind::Other;
+  }
+}
+
+/// The nearest folder at or above a path that exists, with links resolved.
+Bytes existingFolder(Bytes path) {
+  for (;;) {
+    struct stat status;
+    if (::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) break;
+    Bytes parent = parentOf(path);
+    if (parent == path) break;
+    path = std::move(parent);
+  }
+  const std::unique_ptr<char, decltype(&::free)> resolved(::realpath(path.c_str(), nullptr), &::free);
+  return resolved ? Bytes(resolved.get()) : path;
+}
+
+}  // namespace
+
+platform::FolderListing PosixFiles::list(const Text& folder) {
+  const Bytes path = nativePath(folder);
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(::opendir(path.c_str()), &::closedir);
+  if (!stream) throwErrno(path);
+  const int descriptor = ::dirfd(stream.get());
+  struct stat status;
+  if (::fstat(descriptor, &status) != 0) throwErrno(path);
+
+  platform::FolderListing listing;
+  listing.id = {status.st_dev, status.st_ino};
+  for (;;) {
+    errno = 0;
+    const dirent* entry = ::readdir(stream.get());
+    if (!entry) break;
+    const BytesView name = entry->d_name;
+    if (name == "." || name == "..") continue;
+    listing.entries.push_back({core::fromBytes(name), kindOf(descriptor, *entry)});
+  }
+  if (errno != 0) throwErrno(path);
+  return listing;
+}
+
+bool PosixFiles::fileExists(const Text& path) {
+  struct stat status;
+  return path.find(u'\0') == Text::npos && ::stat(core::toBytes(path).c_str(), &status) == 0 &&
+         !S_ISDIR(status.st_mode);
+}
+
+bool PosixFiles::folderExists(const Text& path) {
+  struct stat status;
+  return path.find(u'\0') == Text::npos && ::stat(core::toBytes(path).c_str(), &status) == 0 &&
+         S_ISDIR(status.st_mode);
+}
+
+std::uint64_t PosixFiles::size(const Text& path) {
+  const Bytes native = nativePath(path);
+  const struct stat status = statusOf(native);
+  if (!S_ISREG(status.st_mode)) throw FileError(FileError::pathAccess);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+std::unique_ptr<platform::OpenFile> PosixFiles::open(const Text& path, platform::OpenMode mode) {
+  Bytes native = nativePath(path);
+  Descriptor file = openRegular(native, mode == platform::OpenMode::Read ? O_RDONLY : O_RDWR);
+  return std::make_unique<PosixOpenFile>(std::move(file), std::move(native));
+}
+
+std::unique_ptr<platform::OpenFile> PosixFiles::create(const Text& path) {
+  Bytes native = nativePath(path);
+  Descriptor file = createFile(native, O_RDWR);
+  return std::make_unique<PosixOpenFile>(std::move(file), std::move(native));
+}
+
+Bytes PosixFiles::readAll(const Text& path) {
+  const Bytes native = nativePath(path);
+  const Descriptor file = openRegular(native, O_RDONLY);
+  Bytes content;
+  content.resize(sizeOf(file, native));
+  std::size_t done = 0;
+  for (;;) {
+    // One byte more than is left, so that a file that grows meanwhile is still read to its end.
+    if (done == content.size()) content.resize(done + std::max<std::size_t>(done / 2, 1));
+    const ssize_t count =
+        untilDone([&] { return ::read(file.get(), content.data() + done, content.size() - done); });
+    if (count < 0) throwErrno(native);
+    if (count == 0) break;
+    done += static_cast<std::size_t>(count);
+  }
+  content.resize(done);
+  return content;
+}
+
+void PosixFiles::writeAll(const Text& path, BytesView bytes) {
+  const Bytes native = nativePath(path);
+  Descriptor file = openOwn(native, O_WRONLY);
+  // The old content is not thrown away before the new one has room: a full disk leaves it as it was.
+  const std::uint64_t oldSize = sizeOf(file, native);
+  if (bytes.size() > oldSize) {
+    const auto room = static_cast<off_t>(bytes.size());
+    const int result = untilDone([&] { return ::fallocate(file.get(), FALLOC_FL_KEEP_SIZE, 0, room); });
+    if (result != 0 && (errno == ENOSPC || errno == EDQUOT)) {
+      const int code = errno;
+      [[maybe_unused]] const int freed = ::ftruncate(file.get(), static_cast<off_t>(oldSize));
+      throwFileError(code, native);
+    }
+  }
+  if (const int code = writeFully(file.get(), bytes, 0)) throwFileError(code, native);
+  if (bytes.size() < oldSize && ::ftruncate(file.get(), static_cast<off_t>(bytes.size())) != 0)
+    throwErrno(native);
+  if (const int code = file.close()) throwFileError(code, native);
+}
+
+void PosixFiles::append(const Text& path, BytesView bytes) {
+  const Bytes native = nativePath(path);
+  Descriptor file = openOwn(native, O_WRONLY | O_APPEND);
+  const std::uint64_t oldSize = sizeOf(file, native);
+  const ssize_t count = untilDone([&] { return ::write(file.get(), bytes.data(), bytes.size()); });
+  if (count != static_cast<ssize_t>(bytes.size())) {
+    // A record that did not fit must not leave its first half in front of the next one.
+    const int code = count < 0 ? errno : ENOSPC;
+    [[maybe_unused]] const int cut = ::ftruncate(file.get(), static_cast<off_t>(oldSize));
+    throwFileError(code, native);
+  }
+  if (const int code = file.close()) throwFileError(code, native);
+}
+
+void PosixFiles::makeFolder(const Text& path) {
+  const Bytes native = nativePath(path);
+  // Down to the first folder that can be made, and up again.
+  std::vector<Bytes> missing = {native};
+  while (!missing.empty()) {
+    const Bytes& folder = missing.back();
+    if (::mkdir(folder.c_str(), 0777) == 0) {
+      missing.pop_back();
+      continue;
+    }
+    const int code = errno;
+    struct stat status;
+    if (::stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) {
+      missing.pop_back();
+      continue;
+    }
+    Bytes parent = parentOf(folder);
+    if (code != ENOENT || parent == folder) throwFileError(code, folder);
+    if (::stat(parent.c_str(), &status) == 0) throwFileError(code, folder);
+    missing.push_back(std::move(parent));
+  }
+}
+
+void PosixFiles::move(const Text& from, const Text& to) {
+  moveEntry(nativePath(from), nativePath(to));
+}
+
+void PosixFiles::moveFolder(const Text& from, const Text& to) {
+  moveEntry(nativePath(from), nativePath(to));
+}
+
+void PosixFiles::replace(const Text& from, const Text& to) {
+  replaceFile(nativePath(from), nativePath(to));
+}
+
+void PosixFiles::remove(const Text& path) {
+  const Bytes native = nativePath(path);
+  if (::unlink(native.c_str()) != 0) throwErrno(native);
+}
+
+void PosixFiles::removeEmptyFolder(const Text& path) {
+  const Bytes native = nativePath(path);
+  if (::rmdir(native.c_str()) != 0) throwErrno(native);
+}
+
+void PosixFiles::clearAttributes(const Text& path) {
+  const Bytes native = nativePath(path);
+  const struct stat status = statusOf(native);
+  if (status.st_mode & S_IWUSR) return;
+  if (::chmod(native.c_str(), (status.st_mode | S_IWUSR) & 07777) != 0) throwErrno(native);
+}
+
+bool PosixFiles::busy(const Text& path) {
+  struct stat status;
+  const Bytes native = core::toBytes(path);
+  if (path.find(u'\0') != Text::npos || ::stat(native.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+    return false;
+  const Descriptor file(untilDone([&] { return ::open(native.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC); }));
+  if (!file.valid()) return errno == ETXTBSY || errno == EAGAIN;
+  if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return true;
+  struct flock whole = {};
+  whole.l_type = F_WRLCK;
+  whole.l_whence = SEEK_SET;
+  if (::fcntl(file.get(), F_OFD_SETLK, &whole) != 0 && (errno == EAGAIN || errno == EACCES)) return true;
+  return false;  // both locks end with the descriptor
+}
+
+Text PosixFiles::volumeOf(const Text& path) {
+  Bytes folder = existingFolder(nativePath(path));
+  const dev_t device = statusOf(folder).st_dev;
+  while (folder != "/") {
+    Bytes parent = parentOf(folder);
+    struct stat status;
+    if (::stat(parent.c_str(), &status) != 0 || status.st_dev != device || parent == folder) break;
+    folder = std::move(parent);
+  }
+  return core::fromBytes(folder);
+}
+
+std::uint64_t PosixFiles::freeBytes(const Text& path) {
+  const Bytes folder = existingFolder(nativePath(path));
+  struct statvfs volume;
+  if (::statvfs(folder.c_str(), &volume) != 0) throwErrno(folder);
+  return static_cast<std::uint64_t>(volume.f_bavail) * volume.f_frsize;
+}
+
+}  // namespace velmora::system

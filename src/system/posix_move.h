@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/text.h"
+
+/// Moves that never overwrite and never lose a file, on native paths. All throw FileError.
+namespace velmora::system {
+
+/// Gives a file, link or folder a new path, within a volume or across. The target name must be free, save
+/// for a change of capitals alone on a disk that does not tell them apart. A failure leaves the source whole
+/// and nothing half done at the target.
+void moveEntry(const Bytes& from, const Bytes& to);
+
+/// Puts `from` in the place of the file that `to` is or leads to, with that file's mode and owner.
+void replaceFile(const Bytes& from, const Bytes& to);
+
+/// Renames unless the target name is taken; returns 0 or the error code.
+int renameNoReplace(const Bytes& from, const Bytes& to);
+
+}  // namespace velmora::system

@@ -1,0 +1,53 @@
+#include "system/posix_open_file.h"
+
+#include <sys/stat.h>
+#include <utility>
+
+#include "system/posix_error.h"
+
+namespace velmora::system {
+
+PosixOpenFile::PosixOpenFile(Descriptor descriptor, Bytes path)
+    : descriptor_(std::move(descriptor)), path_(std::move(path)) {}
+
+std::uint64_t PosixOpenFile::size() {
+  struct stat status;
+  if (::fstat(descriptor_.get(), &status) != 0) throwErrno(path_);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+std::size_t PosixOpenFile::readAt(std::uint64_t offset, std::span<char> into) {
+  std::size_t done = 0;
+  while (done < into.size()) {
+    const ssize_t count = untilDone([&] {
+      return ::pread(descriptor_.get(), into.data() + done, into.size() - done,
+                     static_cast<off_t>(offset + done));
+    });
+    if (count < 0) throwErrno(path_);
+    if (count == 0) break;
+    done += static_cast<std::size_t>(count);
+  }
+  return done;
+}
+
+void PosixOpenFile::writeAt(std::uint64_t offset, BytesView bytes) {
+  if (const int code = writeFully(descriptor_.get(), bytes, offset)) throwFileError(code, path_);
+}
+
+void PosixOpenFile::flush() {
+  if (untilDone([&] { return ::fsync(descriptor_.get()); }) != 0) throwErrno(path_);
+}
+
+int writeFully(int descriptor, BytesView bytes, std::uint64_t offset) {
+  while (!bytes.empty()) {
+    const ssize_t count = untilDone(
+        [&] { return ::pwrite(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(offset)); });
+    if (count < 0) return errno;
+    if (count == 0) return EIO;
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+    offset += static_cast<std::uint64_t>(count);
+  }
+  return 0;
+}
+
+}  // namespace velmora::system

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/files.h"
+#include "system/descriptor.h"
+
+namespace velmora::system {
+
+/// An OpenFile over a descriptor. `path` only serves to tell errors apart.
+class PosixOpenFile final : public platform::OpenFile {
+ public:
+  PosixOpenFile(Descriptor descriptor, Bytes path);
+
+  std::uint64_t size() override;
+  std::size_t readAt(std::uint64_t offset, std::span<char> into) override;
+  void writeAt(std::uint64_t offset, BytesView bytes) override;
+  void flush() override;
+
+ private:
+  Descriptor descriptor_;
+  Bytes path_;
+};
+
+/// Writes all of `bytes` at `offset`; returns 0 or the error code.
+int writeFully(int descriptor, BytesView bytes, std::uint64_t offset);
+
+}  // namespace velmora::system

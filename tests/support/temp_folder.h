@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/text.h"
+
+namespace velmora::test {
+
+/// A folder of its own for one test, under the system's folder for such, removed with all it holds at the
+/// end.
+class TempFolder {
+ public:
+  TempFolder();
+  ~TempFolder();
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  /// Full path, without a separator at its end.
+  const Text& path() const { return path_; }
+  /// Full path of a name in the folder; the name may lead through folders.
+  Text path(TextView name) const;
+
+  /// Makes a file with these bytes, and the folders above it, and returns its full path.
+  Text write(TextView name, BytesView bytes) const;
+  /// The whole content of a file; a missing one fails the test.
+  Bytes read(TextView name) const;
+  /// Makes a folder, and the folders above it, and returns its full path.
+  Text mkdir(TextView name) const;
+  bool exists(TextView name) const;
+
+ private:
+  Text path_;
+};
+
+}  // namespace velmora::test
