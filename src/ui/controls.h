@@ -23,6 +23,9 @@ class Control : public Observable {
   void setEnabled(bool enabled) { assign(enabled_, enabled); }
   bool visible() const { return visible_; }
   void setVisible(bool visible) { assign(visible_, visible); }
+  /// Asks the view for the keyboard focus; counts the requests.
+  void takeFocus() { ++focusRequests_, changed(); }
+  int focusRequests() const { return focusRequests_; }
 
  protected:
   ~Control() = default;
@@ -30,6 +33,7 @@ class Control : public Observable {
  private:
   bool enabled_ = true;
   bool visible_ = true;
+  int focusRequests_ = 0;
 };
 
 class Label : public Control {
@@ -56,6 +60,8 @@ class TextBox : public Control {
   std::function<void()> onChange;
   /// Returns true when the key was used up and the box must not act on it.
   std::function<bool(KeyPress)> onKey;
+  /// Set by the view: takes back the user's last edit in the box, as its own undo key does.
+  std::function<void()> undoEdit;
 
   const Text& text() const { return text_; }
   /// Puts the cursor behind the text and raises onChange when the text differs.

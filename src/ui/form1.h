@@ -2,6 +2,8 @@
 
 #include "ui/controls.h"
 #include "ui/list_box.h"
+#include "ui/player_panel.h"
+#include "ui/repair_tools.h"
 #include "ui/window.h"
 
 namespace velmora::ui {
@@ -59,10 +61,13 @@ struct Form1 : Window {
   TextBox Text8;  ///< "Artist part of filename"
   TextBox Text5;  ///< "Name of song part of filename"
   TagPanel tags;
+  FieldChecks fieldChecks;
   Button update;  ///< writes the tag boxes to the file
 
   Button assort;   ///< Assort Files Per Folders: on to the Music Base Window
   Slider preview;  ///< sound of the preview player; its share is stored under `slider`
+  PlayerPanel player;
+  RepairTools repair;
 };
 
 }  // namespace velmora::ui
