@@ -16,6 +16,9 @@ class DashFinder {
   void find(int row);
 
  private:
+  /// Whether one of the row's tags names exactly this artist, capitals and blanks around aside.
+  bool artistInTags(int row, TextView artist);
+
   core::TrackTable& table_;
   const review::ArtistBook& artists_;
   tags::TagCache& tags_;

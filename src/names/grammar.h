@@ -14,6 +14,9 @@ void PevacIPesma(core::TrackTable& table, int row);
 Text SamoSlova(TextView text);
 /// The text with each character that a file name cannot hold replaced by a blank.
 Text OcistiIme(TextView text);
+/// 1-based position from which the dash is looked for: the end of `artist` where the name begins with it, so
+/// that a dash inside the artist's own name is passed over; else 1.
+int dashStart(TextView bareName, TextView artist);
 /// Dash position for the new name of a row that was renamed, 0 when there is none: the first dash at or
 /// behind the end of `oldArtist` where the name still begins with it.
 int dashAfterRename(TextView bareName, TextView oldArtist);
@@ -22,7 +25,8 @@ struct RemovedNumber {
   Text digits;  ///< empty when nothing was removed
   Text name;    ///< what is left of the name, before any syntax fix
 };
-/// Takes the first run of exactly `digits` digits out of a bare name.
+/// Takes the first run of exactly `digits` digits out of a bare name. With 2 digits the word "Track" in front
+/// of a number goes too. The caller puts the name in its box and has its syntax fixed.
 RemovedNumber SkiniBroj(TextView bareName, int digits);
 
 }  // namespace velmora::names

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/settings.h"
 #include "core/track_table.h"
@@ -20,26 +22,39 @@ class UndoJournal {
   std::function<void(std::string_view kind)> onMarker;
 
   /// kind + L(first) + " " + rest, where L is the length in three digits and the text. `kind` has three
-  /// letters.
+  /// letters. Throws FileError when the record could not be written: what it would undo must not be done
+  /// then.
   void appendUndoRecord(std::string_view kind, TextView first, TextView rest);
-  /// A stretch of records starts here.
+  /// A stretch of records starts here. Throws FileError like appendUndoRecord.
   void appendUndoMarker(std::string_view kind);
   /// Kind of the topmost of new, fix, dup, st1, st2, dst and fst; "" when there is none, or without
   /// Settings.ini. Reads the file from its end, so it costs the length of the top stretch alone.
   std::string lastUndoMarker() const;
+
   bool exists() const;
-  /// Deletes the file, which ends the history.
+  /// All records, the oldest first. Torn and damaged lines are left out. Throws FileError.
+  std::vector<Text> readRecords() const;
+  /// Makes `records` the whole journal, which may be empty. Throws FileError, and the journal is then as it
+  /// was.
+  void rewrite(const std::vector<Text>& records);
+  /// Deletes the file, which ends the history. No failure is reported.
   void remove();
 
  private:
+  void append(TextView record);
+  bool endsTorn() const;
+
   platform::Files& files_;
   const core::Settings& settings_;
   Text path_;
+  bool whole_ = false;  // the file is known to end with a line end
 };
 
-/// A text with its length in front, as at least three digits.
+/// A text with its length in front, as at least three digits. Readers take three, so a text of 1000
+/// characters or more makes its record unreadable.
 Text lengthPrefixed(TextView text);
-/// The flags, tag columns, path and dash position of a row, and the count of rows, as one text.
+/// Three flags and fifteen L(x) fields: the tag columns, path and dash position of a row, and the count of
+/// rows of the working list.
 Text rowSnapshot(const core::TrackTable& table, int row);
 
 }  // namespace velmora::review

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/text.h"
+
+/// The lines of the undo journal. A record stands between double quotes on a line of its own. It may hold
+/// quotes and line breaks (the texts of a tag may), so it ends only where a quote and a line end are followed
+/// by the quote of the next record or by the end of the file. What does not end so is torn and dropped, and
+/// takes nothing below it along.
+namespace velmora::review::journal_lines {
+
+/// The records in `bytes`, the oldest first.
+std::vector<BytesView> split(BytesView bytes);
+/// Goes through the records of a file from the newest to the oldest, reading no more than it needs, until
+/// `visit` answers false. The view that it is given lasts for that call.
+void visitFromEnd(platform::OpenFile& file, const std::function<bool(BytesView record)>& visit);
+
+}  // namespace velmora::review::journal_lines

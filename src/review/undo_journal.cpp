@@ -1,0 +1,133 @@
+#include "review/undo_journal.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/text.h"
+#include "platform/file_error.h"
+#include "review/journal_lines.h"
+
+namespace velmora::review {
+
+namespace {
+
+constexpr std::array<std::string_view, 7> markerKinds = {"new", "fix", "dup", "st1", "st2", "dst", "fst"};
+constexpr std::size_t kindLength = 3;
+constexpr BytesView lineEnd = "\r\n";
+
+constexpr std::array<core::Column, 14> snapshotColumns = {
+    &core::Track::pevacID3v1,  &core::Track::pesmaid3v1,     &core::Track::albumid3v1,
+    &core::Track::godinaid3v1, &core::Track::brojtrakeid3v1, &core::Track::vrstaid3v1,
+    &core::Track::pevacID3v2,  &core::Track::pesmaid3v2,     &core::Track::albumid3v2,
+    &core::Track::godinaid3v2, &core::Track::brojtrakeid3v2, &core::Track::vrstaid3v2,
+    &core::Track::nizdes,      &core::Track::crtapos};
+
+/// The record between its quotes, with a line end. A line break that would look like the end of the record is
+/// written as a blank, which leaves all lengths right.
+Bytes lineOf(TextView record) {
+  const Text closed = core::replaceAll(Text(record) + u'"', u"\n\"", u" \"");
+  return '"' + core::toBytes(closed) + Bytes(lineEnd);
+}
+
+}  // namespace
+
+UndoJournal::UndoJournal(platform::Files& files, const core::Settings& settings, Text path)
+    : files_(files), settings_(settings), path_(std::move(path)) {}
+
+void UndoJournal::appendUndoRecord(std::string_view kind, TextView first, TextView rest) {
+  append(core::ascii(kind) + lengthPrefixed(first) + u" " + Text(rest));
+}
+
+void UndoJournal::appendUndoMarker(std::string_view kind) {
+  append(core::ascii(kind));
+  if (onMarker) onMarker(kind);
+}
+
+void UndoJournal::append(TextView record) {
+  Bytes line;
+  // A line torn by a crash or a full disk must not swallow this one. After an append of our own the end is
+  // known.
+  if (!std::exchange(whole_, false) && endsTorn()) line = lineEnd;
+  line += lineOf(record);
+  files_.append(path_, line);
+  whole_ = true;
+}
+
+bool UndoJournal::endsTorn() const {
+  if (!files_.fileExists(path_)) return false;
+  const auto file = files_.open(path_, platform::OpenMode::Read);
+  const std::uint64_t size = file->size();
+  char last = lineEnd.back();
+  if (size > 0) file->readAt(size - 1, {&last, 1});
+  return last != lineEnd.back();
+}
+
+std::string UndoJournal::lastUndoMarker() const {
+  std::string marker;
+  if (!settings_.exists() || !exists()) return marker;
+  try {
+    const auto file = files_.open(path_, platform::OpenMode::Read);
+    journal_lines::visitFromEnd(*file, [&marker](BytesView record) {
+      const BytesView kind = record.substr(0, kindLength);
+      if (std::ranges::find(markerKinds, kind) != markerKinds.end()) marker = kind;
+      return marker.empty();
+    });
+  } catch (const platform::FileError&) {
+    // What cannot be read cannot be undone either.
+  }
+  return marker;
+}
+
+bool UndoJournal::exists() const {
+  return files_.fileExists(path_);
+}
+
+std::vector<Text> UndoJournal::readRecords() const {
+  std::vector<Text> records;
+  if (!exists()) return records;
+  const Bytes bytes = files_.readAll(path_);
+  for (const BytesView record : journal_lines::split(bytes)) records.push_back(core::fromBytes(record));
+  return records;
+}
+
+void UndoJournal::rewrite(const std::vector<Text>& records) {
+  Bytes bytes;
+  for (const Text& record : records) bytes += lineOf(record);
+  whole_ = false;
+  if (!exists()) return files_.writeAll(path_, bytes);
+  // In one step, since a journal cut short by a crash would lose what it still has to undo.
+  const Text fresh = path_ + u".new";
+  files_.writeAll(fresh, bytes);
+  files_.replace(fresh, path_);
+}
+
+void UndoJournal::remove() {
+  whole_ = false;
+  if (!exists()) return;
+  try {
+    files_.remove(path_);
+  } catch (const platform::FileError&) {
+    // A file that stays is no reason to stop: its rows are gone from the table.
+  }
+}
+
+Text lengthPrefixed(TextView text) {
+  constexpr std::size_t fewestDigits = 3;
+  Text digits = core::plain(static_cast<std::int64_t>(text.size()));
+  if (digits.size() < fewestDigits) digits.insert(0, fewestDigits - digits.size(), u'0');
+  return digits + Text(text);
+}
+
+Text rowSnapshot(const core::TrackTable& table, int row) {
+  const core::Track& track = table.track(row);
+  Text snapshot;
+  for (const core::Element* flag : {&track.procitan, &track.imaid3v1, &track.imaid3v2})
+    snapshot += flag->isTrue() ? u'1' : u'0';
+  for (const core::Column column : snapshotColumns) snapshot += lengthPrefixed((track.*column).text());
+  return snapshot + lengthPrefixed(core::number(std::int64_t{table.brojfajlova()}));
+}
+
+}  // namespace velmora::review
