@@ -24,6 +24,7 @@ struct FileError : std::exception {
 
   int number;
   Text description;
+  Text source;  ///< class that passed the failure on, such as "velmora.cMP3ID3v1"; empty from the services
 };
 
 }  // namespace velmora::platform

@@ -4,6 +4,7 @@
 
 #include "core/track_table.h"
 #include "platform/files.h"
+#include "tags/song_bytes.h"
 #include "tags/tag_cache.h"
 #include "ui/form1.h"
 
@@ -19,12 +20,15 @@ enum class InfoMode {
 /// The facts about one file in the Processing Window.
 class FilePanel {
  public:
-  FilePanel(core::TrackTable& table, platform::Files& files, TagCache& cache, ui::Form1& form1);
+  FilePanel(core::TrackTable& table, platform::Files& files, TagCache& cache, ui::Form1& form1)
+      : table_(table), files_(files), cache_(cache), form1_(form1) {}
 
   /// Length in seconds of a file that is no MPEG audio, from the player when it has that file open; else 0.
   std::function<double(const Text& path)> durationOf;
 
   /// Makes `row` the current row, shows header and tags of the file, and reads its tags into the columns.
+  /// The view of the tag that was chosen stays chosen where the file has that tag. A file that cannot be
+  /// opened leaves what could not be shown blank and the columns as they were.
   void info(const Text& path, int row, InfoMode mode = InfoMode::Full);
   /// Fills the tag boxes from the columns of the chosen tag, for the current row.
   void showTags();
@@ -34,6 +38,19 @@ class FilePanel {
   void clear();
 
  private:
+  struct View {
+    bool id3v1;
+    bool id3v2;
+  };
+
+  void clearLabels();
+  /// Takes both views out of use and blanks the tag boxes; returns what was chosen, both when none was.
+  View clearTags();
+  void showFile(SongBytes& song, const Text& path);
+  void showHeader(SongBytes& song);
+  void showLength(double seconds);
+  void offerViews(const View& chosen);
+
   core::TrackTable& table_;
   platform::Files& files_;
   TagCache& cache_;

@@ -4,20 +4,24 @@
 
 #include "platform/files.h"
 #include "platform/text.h"
+#include "tags/song_bytes.h"
 #include "tags/update_result.h"
 
 namespace velmora::tags {
 
 /// The 128-byte tag at the end of one file. Written in its track form; on a file without one it begins on the
-/// file's last byte.
+/// file's last byte, which it replaces. A file of 128 bytes or less has none and gets none.
 class cMP3ID3v1 {
  public:
+  static constexpr std::size_t tagBytes = 128;
+
   explicit cMP3ID3v1(platform::Files& files) : files_(files) {}
 
-  /// Binds the file and reads its tag. Throws FileError when it cannot be opened.
+  /// Binds the file and reads its tag. Throws FileError when it cannot be opened; the file is bound even
+  /// then, with no tag.
   void setMP3File(const Text& path);
   /// The same for a file that is open already; `path` is what Update writes to.
-  void read(platform::OpenFile& file, const Text& path);
+  void read(SongBytes& song, const Text& path);
   const Text& MP3File() const { return path_; }
 
   /// Writes the fields to the file. A file of 128 bytes or less is left untouched; one of no bytes at all
@@ -26,6 +30,7 @@ class cMP3ID3v1 {
 
   bool HasID3v1Tag() const { return hasTag_; }
 
+  // On reading, all but printable ASCII is dropped and a byte 0 ends the text; blanks at the end stay.
   Text Title, Artist, Album, Year;
   std::uint8_t Track = 0;
   Text Comment;
@@ -33,7 +38,8 @@ class cMP3ID3v1 {
 
  private:
   void reset();
-  void write();
+  void write() const;
+  Bytes fields() const;
 
   platform::Files& files_;
   Text path_;

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <optional>
-#include <vector>
 
 #include "platform/files.h"
 #include "platform/text.h"
 #include "tags/id3v2_frames.h"
+#include "tags/song_bytes.h"
 #include "tags/update_result.h"
 
 namespace velmora::tags {
@@ -17,57 +18,111 @@ class cMP3ID3v2 {
  public:
   explicit cMP3ID3v2(platform::Files& files) : files_(files) {}
 
-  /// Binds the file and reads its tag. Throws FileError when it cannot be opened.
+  /// Binds the file and reads its tag. Throws FileError when it cannot be opened; the file is bound even
+  /// then, with no tag.
   void setMP3File(const Text& path);
   /// The same for a file that is open already; `path` is what Update writes to.
-  void read(platform::OpenFile& file, const Text& path);
+  void read(SongBytes& song, const Text& path);
   const Text& MP3File() const { return path_; }
 
+  /// Whether a marker was found, of whatever version.
   bool HasID3v2Tag() const { return hasTag_; }
   std::uint8_t ID3v2TagVersion() const { return version_; }
   std::uint8_t TagVersion() const { return version_; }
 
   // The frame table. Positions of identifiers and of tags count from 1.
   int FrameCount() const { return frames_.count(); }
-  const Text& Frame(int index) const { return frames_.name(index); }
-  void RemoveFrame(const Text& frame);
-  int TagsInFrame(const Text& frame) const { return frames_.tags(frame); }
-  void AddTag(const Text& frame, const Text& body) { frames_.add(frame, body); }
-  void RemoveTag(const Text& frame, int index) { frames_.removeTag(frame, index); }
-  const Text& TagText(const Text& frame, int index) const { return frames_.body(frame, index); }
+  const Bytes& Frame(int index) const { return frames_.name(index); }
+  /// Throws FileError for an identifier that the table does not have.
+  void RemoveFrame(BytesView frame);
+  int TagsInFrame(BytesView frame) const { return frames_.tags(frame); }
+  void AddTag(BytesView frame, TextView body);
+  /// Loses the bodies of all other identifiers while tags of this one remain: see FrameTable::removeTag.
+  void RemoveTag(BytesView frame, int index) { frames_.removeTag(frame, index); }
+  Text TagText(BytesView frame, int index) const;
 
-  // Properties: the value last read or set. Setting one replaces its frame.
-  const Text& Title() const;
-  const Text& Artist() const;
-  const Text& Album() const;
-  const Text& Year() const;
-  const Text& Track() const;
-  const Text& Comment() const;
-  const Text& Lyrics() const;
-  const Text& Composer() const;
-  const Text& Copyright() const;
-  const Text& OriginalArtist() const;
-  const Text& EncodedBy() const;
-  const Text& PlayCounter() const;
-  const Text& ArtistURL() const;
-  const Text& BuyURL() const;
-  const Text& AudioURL() const;
-  const Text& LinkTo() const;
-  const Text& OtherGenreName() const;
-  std::uint8_t Genre() const;
+  // Properties: the value last read or set. Setting one replaces its frame. `Genre` and `OtherGenreName`
+  // share a frame: whichever was set last wins.
+  const Text& ArtistURL() const { return value(Property::ArtistURL); }
+  void setArtistURL(const Text& text) { set(Property::ArtistURL, text); }
+  const Text& BuyURL() const { return value(Property::BuyURL); }
+  void setBuyURL(const Text& text) { set(Property::BuyURL, text); }
+  const Text& AudioURL() const { return value(Property::AudioURL); }
+  void setAudioURL(const Text& text) { set(Property::AudioURL, text); }
+  const Text& Copyright() const { return value(Property::Copyright); }
+  void setCopyright(const Text& text) { set(Property::Copyright, text); }
+  const Text& Composer() const { return value(Property::Composer); }
+  void setComposer(const Text& text) { set(Property::Composer, text); }
+  const Text& OriginalArtist() const { return value(Property::OriginalArtist); }
+  void setOriginalArtist(const Text& text) { set(Property::OriginalArtist, text); }
+  const Text& LinkTo() const { return value(Property::LinkTo); }
+  void setLinkTo(const Text& text) { set(Property::LinkTo, text); }
+  const Text& PlayCounter() const { return value(Property::PlayCounter); }
+  void setPlayCounter(const Text& text) { set(Property::PlayCounter, text); }
+  const Text& EncodedBy() const { return value(Property::EncodedBy); }
+  void setEncodedBy(const Text& text) { set(Property::EncodedBy, text); }
+  const Text& Title() const { return value(Property::Title); }
+  void setTitle(const Text& text) { set(Property::Title, text); }
+  const Text& Artist() const { return value(Property::Artist); }
+  void setArtist(const Text& text) { set(Property::Artist, text); }
+  const Text& Album() const { return value(Property::Album); }
+  void setAlbum(const Text& text) { set(Property::Album, text); }
+  const Text& Year() const { return value(Property::Year); }
+  void setYear(const Text& text) { set(Property::Year, text); }
+  const Text& Comment() const { return value(Property::Comment); }
+  void setComment(const Text& text) { set(Property::Comment, text); }
+  const Text& Lyrics() const { return value(Property::Lyrics); }
+  void setLyrics(const Text& text) { set(Property::Lyrics, text); }
+  std::uint8_t Genre() const { return genre_; }
+  void setGenre(std::uint8_t code);
+  const Text& OtherGenreName() const { return value(Property::OtherGenreName); }
+  void setOtherGenreName(const Text& text) { set(Property::OtherGenreName, text); }
+  const Text& Track() const { return value(Property::Track); }
+  void setTrack(const Text& text) { set(Property::Track, text); }
 
-  void setTitle(const Text& value);
-  // ... one setter per property.
-
-  /// Writes the frame table to the file.
+  /// Writes the frame table to the file: in place where the tag has room, else by a copy of the whole file
+  /// that takes its place in one step. A frame that cannot be written fails before the file is touched.
   UpdateResult Update(const UpdateContext& context);
 
  private:
+  enum class Property {
+    ArtistURL,
+    BuyURL,
+    AudioURL,
+    Copyright,
+    Composer,
+    OriginalArtist,
+    LinkTo,
+    PlayCounter,
+    EncodedBy,
+    Title,
+    Artist,
+    Album,
+    Year,
+    Comment,
+    Lyrics,
+    OtherGenreName,
+    Track,
+    Count
+  };
+  struct PropertyFrame;
+  static const std::array<PropertyFrame, static_cast<std::size_t>(Property::Count)>& propertyFrames();
+
+  const Text& value(Property property) const { return values_[static_cast<std::size_t>(property)]; }
+  void set(Property property, const Text& text);
+  void replaceFrame(BytesView frame, const Text& body);
+  void reset();
+  void StoreFrame(BytesView frame, Bytes body);
+  void storeGenre(const Text& text);
+  void write();
+
   platform::Files& files_;
   Text path_;
   bool hasTag_ = false;
   std::uint8_t version_ = 0;
   FrameTable frames_;
+  std::array<Text, static_cast<std::size_t>(Property::Count)> values_;
+  std::uint8_t genre_ = 255;
 };
 
 }  // namespace velmora::tags

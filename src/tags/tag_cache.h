@@ -2,17 +2,22 @@
 
 #include "core/track_table.h"
 #include "platform/files.h"
+#include "tags/song_bytes.h"
 
 namespace velmora::tags {
 
-/// Fills the tag columns of rows. A row is read once and again only after a write (`procitan`).
+/// Fills the tag columns of rows. A row is read once and again only after a write (`procitan`); there are no
+/// time stamps, so a file that another program changed keeps its old values.
 class TagCache {
  public:
-  TagCache(core::TrackTable& table, platform::Files& files);
+  TagCache(core::TrackTable& table, platform::Files& files) : table_(table), files_(files) {}
 
   /// Reads both tags of `path` into the columns of `row` with one opening of the file, unless the row was
-  /// read. A file of no bytes is not read. A file that cannot be opened leaves the columns as they were.
-  void read(const Text& path, int row);
+  /// read. Bodies of frames that no column takes are not read. A file of no bytes is not read, and one that
+  /// cannot be read leaves the columns as they were. Returns whether the columns hold what the file says.
+  bool read(const Text& path, int row);
+  /// The same for a file that is open already.
+  bool read(SongBytes& song, int row);
 
  private:
   core::TrackTable& table_;

@@ -18,8 +18,12 @@ struct UpdateContext {
 };
 
 /// Runs `write` and asks after each failure: "Error while Update ID3 V1 " and its like, with Abort, Retry and
-/// Ignore. `version` is "V1" or "V2".
+/// Ignore. `version` is "V1" or "V2". Once the user has chosen Retry, only Abort is told from success: an
+/// Ignore after it counts as Done.
 UpdateResult updateWithDialog(const UpdateContext& context, TextView version,
                               const std::function<void()>& write);
+
+/// What a tag writer throws for a file that holds nothing to tag.
+platform::FileError notAValidMP3File(const Text& path);
 
 }  // namespace velmora::tags

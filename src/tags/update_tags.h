@@ -3,6 +3,8 @@
 #include <functional>
 
 #include "core/track_table.h"
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "player/hand_over.h"
 #include "tags/busy_file.h"
@@ -30,10 +32,20 @@ class TagWriter {
   /// Raised after the tags were written, with the snapshot of the row taken before: the undo record "id3".
   std::function<void(int row, const Text& rowSnapshot)> onWritten;
 
-  /// Which tags are written follows from the check boxes. Only a path that ends in MP3 gets any.
+  /// Which tags are written follows from the check boxes. Only a path that ends in MP3 gets any. Waits while
+  /// another program holds the file. Abort and Ignore in the dialog of a failure both end it for this row,
+  /// with no undo record.
   void UpdateTags();
 
  private:
+  bool writeTags(const Text& path, int row, bool released);
+  bool writeID3v1(const Text& path, int row);
+  bool writeID3v2(const Text& path, int row);
+  void showNewID3v2(int row);
+  /// Number in the track box, which ends empty when that is 0.
+  double takeTrack();
+  void showAgain(const Text& path, int row);
+
   Parts parts_;
 };
 

@@ -1,0 +1,142 @@
+#include "tags/file_panel.h"
+
+#include <cstdint>
+
+#include "core/number_text.h"
+#include "core/paths.h"
+#include "core/text.h"
+#include "platform/file_error.h"
+#include "tags/mp3_header.h"
+
+namespace velmora::tags {
+
+namespace {
+
+bool isMpegAudio(const Text& path) {
+  const Text ending = core::paths::lastThree(path);
+  return ending == u"mp3" || ending == u"mp2" || ending == u"mp1";
+}
+
+Text twoDigits(std::int64_t number) {
+  return (number < 10 ? u"0" : u"") + core::plain(number);
+}
+
+void fill(ui::TagPanel& panel, const core::Element& title, const core::Element& artist,
+          const core::Element& album, const core::Element& year, const core::Element& track,
+          const core::Element& genre) {
+  panel.title.setText(title.text());
+  panel.artist.setText(artist.text());
+  panel.album.setText(album.text());
+  panel.year.setText(year.text());
+  panel.track.setText(track.text());
+  panel.genre.setText(genre.text());
+}
+
+}  // namespace
+
+void FilePanel::info(const Text& path, int row, InfoMode mode) {
+  table_.currentRow = row;
+  if (mode == InfoMode::TagsOnly) {
+    cache_.read(path, row);
+    return;
+  }
+  clearLabels();
+  const View chosen = clearTags();
+  form1_.path.setText(path);
+  try {
+    const auto file = files_.open(path, platform::OpenMode::Read);
+    SongBytes song(*file);
+    showFile(song, path);
+    if (mode == InfoMode::WorkingRowsOnly && row > table_.brojfajlova()) return;
+    if (song.size() > 0 && cache_.read(song, row)) offerViews(chosen);
+  } catch (const platform::FileError&) {
+    // What was shown so far stays.
+  }
+}
+
+void FilePanel::clearLabels() {
+  for (ui::Label* label :
+       {&form1_.fileSize, &form1_.fileLength, &form1_.frequency, &form1_.bitRate, &form1_.mode})
+    label->setText({});
+}
+
+FilePanel::View FilePanel::clearTags() {
+  ui::TagPanel& tags = form1_.tags;
+  View chosen{tags.viewID3v1.chosen(), tags.viewID3v2.chosen()};
+  if (!chosen.id3v1 && !chosen.id3v2) chosen = {true, true};
+  for (ui::OptionButton* view : {&tags.viewID3v1, &tags.viewID3v2}) {
+    view->setEnabled(false);
+    view->setChosen(false);
+  }
+  showTags();
+  return chosen;
+}
+
+void FilePanel::showFile(SongBytes& song, const Text& path) {
+  const double megabytes = static_cast<double>(song.size()) / 1048576;
+  form1_.fileSize.setText(core::number(core::roundHalfEven(megabytes, 2)) + u" MB");
+  if (isMpegAudio(path)) {
+    if (song.size() > 0) showHeader(song);
+    return;
+  }
+  form1_.Text1.setText(Text(core::paths::bareName(path)));
+  if (durationOf) showLength(durationOf(path));
+}
+
+void FilePanel::showHeader(SongBytes& song) {
+  clsMP3HeadReader header;
+  header.read(song);
+  form1_.frequency.setText(core::plain(std::int64_t{header.Frequency}) + u" kHz");
+  form1_.bitRate.setText(core::plain(std::int64_t{header.Bitrate}) + u" kbps");
+  form1_.mode.setText(header.Mode);
+  showLength(static_cast<double>(header.Length));
+}
+
+void FilePanel::showLength(double seconds) {
+  if (!(seconds > 0)) return;
+  const auto whole = static_cast<std::int64_t>(seconds);
+  form1_.fileLength.setText(twoDigits(whole / 60) + u":" + twoDigits(whole % 60) + u" sec");
+}
+
+void FilePanel::offerViews(const View& chosen) {
+  ui::TagPanel& tags = form1_.tags;
+  const core::Track& track = table_.track(table_.currentRow);
+  if (track.imaid3v1.isTrue()) {
+    tags.viewID3v1.setEnabled(true);
+    if (chosen.id3v1) tags.viewID3v1.setChosen(true);
+  }
+  if (track.imaid3v2.isTrue()) {
+    tags.viewID3v2.setEnabled(true);
+    if (chosen.id3v2 || !tags.viewID3v1.chosen()) tags.viewID3v2.setChosen(true);
+  }
+  showTags();
+}
+
+void FilePanel::showTags() {
+  const core::Track& track = table_.track(table_.currentRow);
+  ui::TagPanel& tags = form1_.tags;
+  if (tags.viewID3v2.chosen())
+    fill(tags, track.pesmaid3v2, track.pevacID3v2, track.albumid3v2, track.godinaid3v2, track.brojtrakeid3v2,
+         track.vrstaid3v2);
+  else if (tags.viewID3v1.chosen())
+    fill(tags, track.pesmaid3v1, track.pevacID3v1, track.albumid3v1, track.godinaid3v1, track.brojtrakeid3v1,
+         track.vrstaid3v1);
+  else
+    fill(tags, {}, {}, {}, {}, {}, {});
+}
+
+void FilePanel::showName(int row) {
+  const core::Track& track = table_.track(row);
+  form1_.Text1.setText(Text(core::paths::bareName(track.nizdes.text())));
+  form1_.Text8.setText(track.pevac.text());
+  form1_.Text5.setText(track.pesma.text());
+}
+
+void FilePanel::clear() {
+  clearLabels();
+  clearTags();
+  form1_.path.setText({});
+  for (ui::TextBox* box : {&form1_.Text1, &form1_.Text8, &form1_.Text5}) box->setText({});
+}
+
+}  // namespace velmora::tags

@@ -1,0 +1,155 @@
+#include "tags/update_tags.h"
+
+#include <cstdint>
+
+#include "core/number_text.h"
+#include "core/paths.h"
+#include "core/text.h"
+#include "platform/file_error.h"
+#include "review/undo_journal.h"
+#include "tags/genre.h"
+#include "tags/id3v1.h"
+#include "tags/id3v2.h"
+
+namespace velmora::tags {
+
+namespace {
+
+constexpr int pauseBelowVersion = 260;  // older systems need a moment after a file was let go
+constexpr int pauseMilliseconds = 100;
+constexpr std::uint8_t noGenre = 255;
+
+/// Reads the tag that is to be changed. One that cannot be read counts as missing: writing it will say why.
+template <typename Tag>
+void bind(Tag& tag, const Text& path) {
+  try {
+    tag.setMP3File(path);
+  } catch (const platform::FileError&) {
+  }
+}
+
+bool blank(const Text& text) {
+  return core::trim(text).empty();
+}
+
+std::uint8_t trackByte(double track) {
+  const double rounded = core::roundHalfEven(track);
+  return rounded >= 0 && rounded <= 255 ? static_cast<std::uint8_t>(rounded) : std::uint8_t{0};
+}
+
+}  // namespace
+
+void TagWriter::UpdateTags() {
+  const int row = parts_.table.currentRow;
+  if (!parts_.table.hasRow(row)) return;
+  const Text path = parts_.table.path(row);
+
+  const player::FileHandOver handOver(parts_.player, path);
+  if (handOver.held() && parts_.desktop.systemVersion() < pauseBelowVersion)
+    parts_.desktop.sleep(pauseMilliseconds);
+  if (!parts_.busyFile.waitUntilFree(path)) return;
+  if (core::paths::lastThree(path) != u"mp3") return;
+  try {
+    parts_.files.clearAttributes(path);
+  } catch (const platform::FileError&) {
+    // What keeps the file from being written shows in the dialog of the write.
+  }
+  const Text before = review::rowSnapshot(parts_.table, row);
+  if (!writeTags(path, row, handOver.held())) return;
+  if (onWritten) onWritten(row, before);
+  showAgain(path, row);
+}
+
+bool TagWriter::writeTags(const Text& path, int row, bool released) {
+  ui::TagPanel& panel = parts_.form1.tags;
+  const bool toID3v1 = panel.writeID3v1.checked();
+  const bool toID3v2 = panel.writeID3v2.checked();
+  if (toID3v1) {
+    if (!writeID3v1(path, row)) return false;
+    if (!released && parts_.desktop.systemVersion() < pauseBelowVersion)
+      parts_.desktop.sleep(pauseMilliseconds);
+  }
+  if (toID3v2 && !panel.viewID3v2.enabled()) showNewID3v2(row);
+  panel.writeID3v1.setChecked(toID3v1);
+  panel.writeID3v2.setChecked(toID3v2);
+  return !toID3v2 || writeID3v2(path, row);
+}
+
+bool TagWriter::writeID3v1(const Text& path, int row) {
+  const ui::TagPanel& panel = parts_.form1.tags;
+  cMP3ID3v1 tag(parts_.files);
+  bind(tag, path);
+  tag.Title = panel.title.text();
+  tag.Artist = panel.artist.text();
+  tag.Album = panel.album.text();
+  tag.Track = trackByte(takeTrack());
+  tag.Year = panel.year.text();
+  if (blank(panel.genre.text()))
+    tag.Genre = noGenre;
+  else if (const auto code = genreCode(panel.genre.text()))
+    tag.Genre = static_cast<std::uint8_t>(*code);
+  if (tag.Update({parts_.dialogs, parts_.table}) != UpdateResult::Done) return false;
+  parts_.table.track(row).procitan = false;
+  return true;
+}
+
+double TagWriter::takeTrack() {
+  ui::TextBox& box = parts_.form1.tags.track;
+  const double track = core::value(box.text());
+  if (track == 0) box.setText({});
+  return track;
+}
+
+void TagWriter::showNewID3v2(int row) {
+  ui::TagPanel& panel = parts_.form1.tags;
+  core::Track& track = parts_.table.track(row);
+  track.pesmaid3v2 = panel.title.text();
+  track.pevacID3v2 = panel.artist.text();
+  track.albumid3v2 = panel.album.text();
+  track.brojtrakeid3v2 = panel.track.text();
+  track.godinaid3v2 = panel.year.text();
+  track.vrstaid3v2 = panel.genre.text();
+  track.imaid3v2 = true;
+  track.procitan = false;  // the file does not say so yet
+  panel.viewID3v2.setEnabled(true);
+  panel.viewID3v2.setChosen(true);
+}
+
+bool TagWriter::writeID3v2(const Text& path, int row) {
+  const ui::TagPanel& panel = parts_.form1.tags;
+  cMP3ID3v2 tag(parts_.files);
+  bind(tag, path);
+  tag.setTitle(panel.title.text());
+  tag.setArtist(panel.artist.text());
+  tag.setAlbum(panel.album.text());
+  const Text track = panel.track.text().empty() ? Text(u"0") : panel.track.text();
+  takeTrack();
+  tag.setTrack(track);
+  tag.setYear(panel.year.text());
+  const Text& genre = panel.genre.text();
+  if (blank(genre))
+    tag.setGenre(noGenre);
+  else if (const auto code = genreCode(genre))
+    tag.setGenre(static_cast<std::uint8_t>(*code));
+  else
+    tag.setOtherGenreName(genre);
+  if (tag.Update({parts_.dialogs, parts_.table}) != UpdateResult::Done) return false;
+  parts_.table.track(row).procitan = false;
+  return true;
+}
+
+void TagWriter::showAgain(const Text& path, int row) {
+  ui::TagPanel& panel = parts_.form1.tags;
+  const bool toID3v1 = panel.writeID3v1.checked();
+  const bool toID3v2 = panel.writeID3v2.checked();
+  const bool viewedID3v1 = panel.viewID3v1.chosen();
+  const bool viewedID3v2 = panel.viewID3v2.chosen();
+  parts_.panel.info(path, row);
+  if (viewedID3v1 && panel.viewID3v1.enabled()) panel.viewID3v1.setChosen(true);
+  if (viewedID3v2 && panel.viewID3v2.enabled()) panel.viewID3v2.setChosen(true);
+  parts_.panel.showTags();
+  panel.writeID3v1.setChecked(toID3v1);
+  panel.writeID3v2.setChecked(toID3v2);
+}
+
+}  // namespace velmora::tags
