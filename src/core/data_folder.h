@@ -34,12 +34,16 @@ class DataFolder {
   /// File that a column is kept in, such as "crtapos.txt"; empty for `pevac` and `pesma`.
   static TextView fileOf(Column column);
 
-  /// Steps 1, 2 and 4 to 8 of a start: fills all columns and side lists, and brojfajlova from `ghb`. Deriving
-  /// the name parts is the caller's, between readNames and readTags.
+  /// The load at a start: readNames fills the name columns and the side lists, and takes all rows for the
+  /// working list; then the caller derives the name parts; then readTags fills the tag columns, and takes
+  /// brojbaza from `bazepesama` and brojfajlova from `ghb`, which is held within the rows.
   void readNames(TrackTable& table) const;
   void readTags(TrackTable& table) const;
 
  private:
+  /// Makes `content` the file's content, or removes the file when that is empty or cannot be written.
+  void store(TextView fileName, BytesView content);
+
   platform::Files& files_;
   Settings& settings_;
   Text folder_;

@@ -92,14 +92,16 @@ void Reader::endLine() {
 std::vector<Element> readAll(BytesView bytes) {
   std::vector<Element> elements;
   Reader reader(bytes);
-  while (auto element = reader.next()) elements.push_back(std::move(*element));
+  while (auto element = reader.next())
+    if (!reader.torn()) elements.push_back(std::move(*element));
   return elements;
 }
 
 std::vector<Text> readTexts(BytesView bytes) {
   std::vector<Text> texts;
   Reader reader(bytes);
-  while (const auto element = reader.next()) texts.push_back(element->text());
+  while (const auto element = reader.next())
+    if (!reader.torn()) texts.push_back(element->text());
   return texts;
 }
 

@@ -37,7 +37,8 @@ class Reader {
   bool torn_ = false;
 };
 
-/// All records as elements; all records as texts.
+/// All records as elements; all records as texts. A torn tail is left out: half a path or number is worse
+/// than none.
 std::vector<Element> readAll(BytesView bytes);
 std::vector<Text> readTexts(BytesView bytes);
 

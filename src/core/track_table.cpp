@@ -20,6 +20,7 @@ std::size_t indexOf(Column column) {
 }
 
 constexpr std::size_t nizdesIndex = 0;
+constexpr int maxRecounted = 16;  // rows that are worth counting one by one
 
 }  // namespace
 
@@ -50,15 +51,19 @@ const Track& TrackTable::track(int row) const {
   return hasRow(row) ? *tracks_[static_cast<std::size_t>(row - 1)] : blank;
 }
 
+const Element& TrackTable::element(Column column, int row) const {
+  static const Element nothing;
+  return row >= 1 && row <= upperBound(column) ? (*tracks_[static_cast<std::size_t>(row - 1)]).*column
+                                               : nothing;
+}
+
 void TrackTable::setParts(int row, Text pevac, Text pesma) {
   if (!hasRow(row)) return;
   Track& changed = track(row);
-  if (countsValid_ && pevac != changed.pevac.text()) {
-    int ArtistRows::*half = row <= brojfajlova_ ? &ArtistRows::working : &ArtistRows::tail;
-    --(artistRows_[changed.pevac.text()].*half);
-    ++(artistRows_[pevac].*half);
-  }
+  const bool otherArtist = pevac != changed.pevac.text();
+  if (otherArtist) count(row, -1);
   changed.pevac = std::move(pevac);
+  if (otherArtist) count(row, 1);
   changed.pesma = std::move(pesma);
 }
 
@@ -71,7 +76,7 @@ void TrackTable::appendPath(Text path) {
   tracks_[static_cast<std::size_t>(rows_)]->nizdes = std::move(path);
   ++rows_;
   upperBounds_[nizdesIndex] = rows_;
-  forgetCounts();
+  count(rows_, 1);
 }
 
 void TrackTable::truncate(int rows) {
@@ -112,8 +117,7 @@ void TrackTable::setColumn(Column column, std::vector<Element> elements) {
 void TrackTable::removeRow(int row) {
   if (!hasRow(row)) return;
   const bool working = row <= brojfajlova_;
-  if (countsValid_)
-    --(artistRows_[track(row).pevac.text()].*(working ? &ArtistRows::working : &ArtistRows::tail));
+  count(row, -1);
   tracks_.erase(tracks_.begin() + (row - 1));
   for (int& bound : upperBounds_)
     if (bound >= row) --bound;
@@ -123,16 +127,24 @@ void TrackTable::removeRow(int row) {
 
 void TrackTable::insertRow(int row) {
   if (row < 1 || row > rows_ + 1) return;
+  // The last row of the working list becomes the first of the tail.
+  const bool passesOn = row <= brojfajlova_ && brojfajlova_ <= rows_;
+  if (passesOn) count(brojfajlova_, -1);
   tracks_.insert(tracks_.begin() + (row - 1), std::make_unique<Track>());
   ++rows_;
   upperBounds_.fill(rows_);
-  forgetCounts();
+  if (passesOn) count(brojfajlova_ + 1, 1);
+  count(row, 1);
 }
 
 void TrackTable::setBrojfajlova(int rows) {
-  if (rows == brojfajlova_) return;
+  // A row that is put back moves the border by one: that must not cost a count of all rows.
+  const int first = std::min(rows, brojfajlova_) + 1;
+  const int last = std::max(rows, brojfajlova_);
+  if (last - first >= maxRecounted) forgetCounts();
+  for (int row = first; countsValid_ && row <= last; ++row) count(row, -1);
   brojfajlova_ = rows;
-  forgetCounts();
+  for (int row = first; countsValid_ && row <= last; ++row) count(row, 1);
 }
 
 TrackTable::ArtistRows TrackTable::artistRows(const Text& artist) const {
@@ -141,12 +153,18 @@ TrackTable::ArtistRows TrackTable::artistRows(const Text& artist) const {
   return found == artistRows_.end() ? ArtistRows{} : found->second;
 }
 
+void TrackTable::count(int row, int change) {
+  if (countsValid_ && hasRow(row)) countInto(row, change);
+}
+
+void TrackTable::countInto(int row, int change) const {
+  ArtistRows& counts = artistRows_[track(row).pevac.text()];
+  (row <= brojfajlova_ ? counts.working : counts.tail) += change;
+}
+
 void TrackTable::countArtists() const {
   artistRows_.clear();
-  for (int row = 1; row <= rows_; ++row) {
-    ArtistRows& counts = artistRows_[track(row).pevac.text()];
-    ++(row <= brojfajlova_ ? counts.working : counts.tail);
-  }
+  for (int row = 1; row <= rows_; ++row) countInto(row, 1);
   countsValid_ = true;
 }
 

@@ -55,6 +55,8 @@ class TrackTable {
   Track& track(int row);
   const Track& track(int row) const;
   const Text& path(int row) const { return track(row).nizdes.text(); }
+  /// An element within the upper bound of its column, which may lie beyond rows(); nothing elsewhere.
+  const Element& element(Column column, int row) const;
 
   /// Gives a row its name parts, and keeps the count of rows per artist right.
   void setParts(int row, Text pevac, Text pesma);
@@ -111,6 +113,9 @@ class TrackTable {
   void reserveRow(int row);
   void countArtists() const;
   void forgetCounts() { countsValid_ = false; }
+  /// Adds `change` to the count of the artist that a row has, where counts are kept.
+  void count(int row, int change);
+  void countInto(int row, int change) const;
 
   std::vector<std::unique_ptr<Track>> tracks_;  // as long as the longest column
   std::array<int, 19> upperBounds_;

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path native(const Text& path) {
+fs::path nativeOf(const Text& path) {
   return core::toBytes(path);
 }
 
@@ -37,38 +37,42 @@ TempFolder::TempFolder() {
 }
 
 TempFolder::~TempFolder() {
-  giveRightsBack(native(path_));
+  giveRightsBack(nativeOf(path_));
   std::error_code ignored;
-  fs::remove_all(native(path_), ignored);
+  fs::remove_all(nativeOf(path_), ignored);
 }
 
 Text TempFolder::path(TextView name) const {
   return core::paths::join(path_, name);
 }
 
+Bytes TempFolder::native(TextView name) const {
+  return core::toBytes(path(name));
+}
+
 Text TempFolder::write(TextView name, BytesView bytes) const {
   Text full = path(name);
-  fs::create_directories(native(full).parent_path());
-  std::ofstream out(native(full), std::ios::binary | std::ios::trunc);
+  fs::create_directories(nativeOf(full).parent_path());
+  std::ofstream out(nativeOf(full), std::ios::binary | std::ios::trunc);
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (!out.flush()) throw std::runtime_error("a test's file cannot be written");
   return full;
 }
 
 Bytes TempFolder::read(TextView name) const {
-  std::ifstream in(native(path(name)), std::ios::binary);
+  std::ifstream in(nativeOf(path(name)), std::ios::binary);
   if (!in) ADD_FAILURE() << "no file " << core::toBytes(name);
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
 Text TempFolder::mkdir(TextView name) const {
   Text full = path(name);
-  fs::create_directories(native(full));
+  fs::create_directories(nativeOf(full));
   return full;
 }
 
 bool TempFolder::exists(TextView name) const {
-  return fs::symlink_status(native(path(name))).type() != fs::file_type::not_found;
+  return fs::symlink_status(nativeOf(path(name))).type() != fs::file_type::not_found;
 }
 
 }  // namespace velmora::test

@@ -17,6 +17,8 @@ class TempFolder {
   const Text& path() const { return path_; }
   /// Full path of a name in the folder; the name may lead through folders.
   Text path(TextView name) const;
+  /// The same as the native bytes that system calls take.
+  Bytes native(TextView name) const;
 
   /// Makes a file with these bytes, and the folders above it, and returns its full path.
   Text write(TextView name, BytesView bytes) const;

@@ -1,0 +1,178 @@
+#include "core/data_folder.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/paths.h"
+#include "core/records.h"
+#include "core/text.h"
+#include "platform/file_error.h"
+
+namespace velmora::core {
+
+namespace {
+
+struct ColumnFile {
+  Column column;
+  TextView name;
+};
+
+constexpr std::array<ColumnFile, 17> columnFiles = {{{&Track::nizdes, u"nizdes.txt"},
+                                                     {&Track::crtapos, u"crtapos.txt"},
+                                                     {&Track::procitan, u"procitan.txt"},
+                                                     {&Track::imaid3v1, u"imaid3v1.txt"},
+                                                     {&Track::pevacID3v1, u"pevacID3v1.txt"},
+                                                     {&Track::pesmaid3v1, u"pesmaid3v1.txt"},
+                                                     {&Track::albumid3v1, u"albumid3v1.txt"},
+                                                     {&Track::godinaid3v1, u"godinaid3v1.txt"},
+                                                     {&Track::brojtrakeid3v1, u"brojtrakeid3v1.txt"},
+                                                     {&Track::vrstaid3v1, u"vrstaid3v1.txt"},
+                                                     {&Track::imaid3v2, u"imaid3v2.txt"},
+                                                     {&Track::pevacID3v2, u"pevacID3v2.txt"},
+                                                     {&Track::pesmaid3v2, u"pesmaid3v2.txt"},
+                                                     {&Track::albumid3v2, u"albumid3v2.txt"},
+                                                     {&Track::godinaid3v2, u"godinaid3v2.txt"},
+                                                     {&Track::brojtrakeid3v2, u"brojtrakeid3v2.txt"},
+                                                     {&Track::vrstaid3v2, u"vrstaid3v2.txt"}}};
+
+constexpr TextView niznomusicFile = u"niznomusic.txt";
+constexpr TextView bazepesamaFile = u"bazepesama.txt";
+constexpr TextView autoriFile = u"autori.txt";
+constexpr TextView stariautoriFile = u"stariautori.txt";
+constexpr TextView bazanizFile = u"bazaniz.txt";
+
+/// A column longer than `nizdes` has outlived the rows it spoke of: what is beyond them must not come to
+/// speak of the files that are added next.
+void takeColumn(TrackTable& table, Column column, std::vector<Element> elements) {
+  const auto rows = static_cast<std::size_t>(table.rows());
+  if (column != &Track::nizdes && elements.size() > rows) elements.resize(rows);
+  table.setColumn(column, std::move(elements));
+}
+
+/// Whether the rows of the table end with the whole Music Base list.
+bool endsWithTail(const TrackTable& table) {
+  const int tail = static_cast<int>(table.bazaniz.size());
+  if (tail > table.rows()) return false;
+  for (int i = tail; i > 0; --i)
+    if (table.path(table.rows() - tail + i) != table.bazaniz[static_cast<std::size_t>(i - 1)]) return false;
+  return true;
+}
+
+/// The working list that a stored count stands for. A count that the rows cannot bear comes from a damaged
+/// file; then every row is taken as the user's own save those of the Music Base, which no batch may touch.
+int workingRows(const TrackTable& table, int stored) {
+  if (stored <= table.rows()) return std::max(stored, 0);
+  return endsWithTail(table) ? table.rows() - static_cast<int>(table.bazaniz.size()) : table.rows();
+}
+
+}  // namespace
+
+DataFolder::DataFolder(platform::Files& files, Settings& settings, Text programFolder)
+    : files_(files), settings_(settings), folder_(paths::join(programFolder, u"Data")) {}
+
+TextView DataFolder::fileOf(Column column) {
+  const auto found = std::ranges::find(columnFiles, column, &ColumnFile::column);
+  return found == columnFiles.end() ? TextView() : found->name;
+}
+
+Text DataFolder::path(TextView fileName) const {
+  for (const ColumnFile& file : columnFiles)
+    if (equalNoCase(file.name, fileName)) fileName = file.name;
+  Text exact = paths::join(folder_, fileName);
+  if (files_.fileExists(exact) || !files_.folderExists(folder_)) return exact;
+  try {
+    for (const platform::FolderEntry& entry : files_.list(folder_).entries)
+      if (entry.kind == platform::EntryKind::File && equalNoCase(entry.name, fileName))
+        return paths::join(folder_, entry.name);
+  } catch (const platform::FileError&) {
+    // A folder that cannot be listed may still let its files be read.
+  }
+  return exact;
+}
+
+void DataFolder::writeColumn(TextView fileName, const TrackTable& table, Column column) {
+  const int rows = table.upperBound(column);
+  Bytes content;
+  for (int row = 1; row <= rows; ++row) records::write(content, table.element(column, row));
+  store(fileName, content);
+}
+
+void DataFolder::writeList(TextView fileName, const std::vector<Text>& list) {
+  Bytes content;
+  for (const Text& text : list) records::writeText(content, text);
+  store(fileName, content);
+}
+
+void DataFolder::store(TextView fileName, BytesView content) {
+  if (!content.empty()) {
+    try {
+      files_.makeFolder(folder_);
+      files_.writeAll(path(fileName), content);
+      return;
+    } catch (const platform::FileError&) {
+      // A file half old and half new would give rows the words of others: rather none.
+    }
+  }
+  remove(fileName);
+}
+
+void DataFolder::remove(TextView fileName) {
+  try {
+    const Text file = path(fileName);
+    if (files_.fileExists(file)) files_.remove(file);
+  } catch (const platform::FileError&) {
+    // Nothing more can be done about it.
+  }
+}
+
+std::vector<Element> DataFolder::readColumn(TextView fileName) const {
+  try {
+    return records::readAll(files_.readAll(path(fileName)));
+  } catch (const platform::FileError&) {
+    return {};
+  }
+}
+
+std::vector<Text> DataFolder::readList(TextView fileName) const {
+  try {
+    return records::readTexts(files_.readAll(path(fileName)));
+  } catch (const platform::FileError&) {
+    return {};
+  }
+}
+
+void DataFolder::savenizove(const TrackTable& table) {
+  settings_.setNumber(u"ghb", table.brojfajlova());
+  writeColumn(fileOf(&Track::nizdes), table, &Track::nizdes);
+  writeColumn(fileOf(&Track::crtapos), table, &Track::crtapos);
+  writeList(niznomusicFile, table.niznomusic);
+  writeList(bazepesamaFile, table.bazepesama);
+  writeList(autoriFile, table.autori);
+}
+
+void DataFolder::SaveID3nizove(const TrackTable& table) {
+  for (const Column column : tagColumns()) writeColumn(fileOf(column), table, column);
+}
+
+void DataFolder::readNames(TrackTable& table) const {
+  for (const Column column : {&Track::nizdes, &Track::crtapos})
+    takeColumn(table, column, readColumn(fileOf(column)));
+  table.niznomusic = readList(niznomusicFile);
+  table.bazepesama = readList(bazepesamaFile);
+  table.stariautori = readList(stariautoriFile);
+  table.setBrojfajlova(table.rows());
+  table.bazaniz = readList(bazanizFile);
+  table.autori = readList(autoriFile);
+  for (const Column column : {&Track::pesma, &Track::pevac})
+    table.setColumn(column, std::vector<Element>(static_cast<std::size_t>(table.rows())));
+}
+
+void DataFolder::readTags(TrackTable& table) const {
+  for (const Column column : tagColumns()) takeColumn(table, column, readColumn(fileOf(column)));
+  table.brojbaza = static_cast<int>(table.bazepesama.size());
+  table.setBrojfajlova(workingRows(table, intValue(settings_.get(u"ghb"))));
+}
+
+}  // namespace velmora::core

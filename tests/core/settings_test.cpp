@@ -1,0 +1,104 @@
+#include "core/settings.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "core/records.h"
+#include "system/posix_files.h"
+#include "tests/support/temp_folder.h"
+
+namespace velmora::core {
+namespace {
+
+class SettingsTest : public testing::Test {
+ protected:
+  void write(BytesView content) { folder.write(u"Settings.ini", content); }
+  Bytes read() { return folder.read(u"Settings.ini"); }
+
+  test::TempFolder folder;
+  system::PosixFiles files;
+  Settings settings{files, folder.path(u"Settings.ini")};
+};
+
+TEST_F(SettingsTest, AMissingFileGivesEmptyValuesAndIsMadeByTheFirstSet) {
+  EXPECT_FALSE(settings.exists());
+  EXPECT_EQ(settings.get(u"ghb"), u"");
+  settings.setNumber(u"ghb", 12);
+  EXPECT_TRUE(settings.exists());
+  EXPECT_EQ(read(), "\"GHB   12\"\r\n");
+  EXPECT_EQ(settings.get(u"ghb"), u" 12");
+}
+
+TEST_F(SettingsTest, AValueIsTakenAsItStands) {
+  settings.set(u"novidir", u"  /home/me/a  b/\u0161 ");
+  EXPECT_EQ(settings.get(u"NoviDir"), u"  /home/me/a  b/\u0161 ");
+  settings.setBoolean(u"komanda", false);
+  EXPECT_EQ(settings.get(u"komanda"), u"False");
+  settings.set(u"novidir", u"");
+  EXPECT_EQ(settings.get(u"novidir"), u"");
+}
+
+TEST_F(SettingsTest, KeysMatchByTheBeginningOfTheLine) {
+  write("\"EX10   1wma\"\r\n\"EX1A   1mp3\"\r\n");
+  EXPECT_EQ(settings.get(u"ex1a"), u" 1mp3");
+  EXPECT_EQ(settings.get(u"ex10"), u" 1wma");
+  EXPECT_EQ(settings.get(u"ex2"), u"");
+  EXPECT_EQ(settings.get(u"ex1"), u"  1mp3") << "which is why no key may begin another";
+}
+
+TEST_F(SettingsTest, TheLastLineOfAKeyWinsAndASetRewritesAll) {
+  write("\"TON  1\"\r\n\"VRSTA  2\"\r\n\"TON  3\"\r\n");
+  EXPECT_EQ(settings.get(u"ton"), u"3");
+  settings.set(u"ton", u"4");
+  EXPECT_EQ(read(), "\"TON  4\"\r\n\"VRSTA  2\"\r\n\"TON  4\"\r\n");
+}
+
+TEST_F(SettingsTest, OtherLinesStayAsTheyAreAndInOrder) {
+  write("\"B  1\"\r\n\r\nnot ours\r\n\"A  x\xE9\"\r\n");
+  settings.set(u"c", u"new");
+  EXPECT_EQ(read(), "\"B  1\"\r\n\r\n\"not ours\"\r\n\"A  x\xE9\"\r\n\"C  new\"\r\n");
+}
+
+TEST_F(SettingsTest, NothingIsCached) {
+  settings.set(u"ton", u"1");
+  write("\"TON  2\"\r\n");
+  EXPECT_EQ(settings.get(u"ton"), u"2");
+}
+
+TEST_F(SettingsTest, AReadOnlyFileStaysAndNoFailureShows) {
+  settings.set(u"ton", u"1");
+  ASSERT_EQ(::chmod(folder.native(u"Settings.ini").c_str(), 0444), 0);
+  settings.set(u"ton", u"2");
+  EXPECT_EQ(settings.get(u"ton"), u"1");
+}
+
+TEST_F(SettingsTest, ALineShorterThanItsGapHasAnEmptyValue) {
+  write("\"TON\"\r\n\"VRSTA \"\r\n");
+  EXPECT_EQ(settings.get(u"ton"), u"");
+  EXPECT_EQ(settings.get(u"vrsta"), u"");
+}
+
+// What is left of a settings file that was cut while it was written, and then used on.
+TEST_F(SettingsTest, CutAnywhereItKeepsTheWholeLinesAndTakesNewOnes) {
+  const Bytes whole = "\"GHB   1200\"\r\n\"NOVIDIR  /home/me/\xC5\xA1\"\r\n\"TON  7\"\r\n";
+  for (std::size_t cut = 0; cut <= whole.size(); ++cut) {
+    write(BytesView(whole).substr(0, cut));
+    for (const TextView key : {u"ghb", u"novidir", u"ton"}) {
+      const Text got = settings.get(key);
+      write(whole);
+      const Text full = settings.get(key);
+      write(BytesView(whole).substr(0, cut));
+      EXPECT_TRUE(got.empty() || got == full) << "cut at " << cut;
+    }
+    settings.set(u"vrsta", u"3");
+    settings.set(u"ton", u"8");
+    ASSERT_EQ(settings.get(u"vrsta"), u"3") << "cut at " << cut;
+    ASSERT_EQ(settings.get(u"ton"), u"8") << "cut at " << cut;
+    const auto once = records::readAll(read());
+    ASSERT_EQ(records::readAll(read()), once);
+    for (const Element& line : once) ASSERT_TRUE(line.isText()) << "cut at " << cut;
+  }
+}
+
+}  // namespace
+}  // namespace velmora::core
