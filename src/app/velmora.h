@@ -3,7 +3,6 @@
 #include <functional>
 #include <memory>
 
-#include "app/events.h"
 #include "core/track_table.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
@@ -27,8 +26,6 @@ struct Folders {
   Text shipped;
 };
 
-struct House;
-
 /// The program: owns everything, in order, wires controls to commands, and knows how it starts and ends.
 class Velmora {
  public:
@@ -37,8 +34,7 @@ class Velmora {
   Velmora(const Velmora&) = delete;
   Velmora& operator=(const Velmora&) = delete;
 
-  /// Raised once when the program has ended; the event loop should then be left. That may be before start()
-  /// has returned.
+  /// Raised once when the program has ended; the event loop should then be left.
   std::function<void()> onEnd;
 
   /// Loads the table, brings up the window that was in front, and resumes what was interrupted.
@@ -50,9 +46,9 @@ class Velmora {
   ui::Windows& windows();
   /// The shared model, for tests and benchmarks.
   core::TrackTable& table();
-  Events& events();
 
  private:
+  struct House;
   std::unique_ptr<House> house_;
 };
 

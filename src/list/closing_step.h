@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "core/track_table.h"
 #include "platform/desktop.h"
 #include "ui/progress.h"
@@ -16,6 +18,9 @@ class ClosingStep {
   /// Shows the counts, ends the progress window, enables the Processing Window, lets clicks through again
   /// (`puniliste` 0) and gives the window the focus.
   void moze();
+  /// Runs a command and then moze, however the command ended, so that no error leaves a window disabled. A
+  /// FileError that the command does not handle ends it without a word.
+  void run(const std::function<void()>& command);
 
  private:
   core::TrackTable& table_;

@@ -6,6 +6,7 @@
 #include "core/settings.h"
 #include "core/track_table.h"
 #include "list/closing_step.h"
+#include "list/folder_scan.h"
 #include "names/dash_finder.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
@@ -18,7 +19,8 @@
 
 namespace velmora::list {
 
-/// Turns folders into the track table: New List, Add and Add Folder.
+/// Turns folders into the track table: New List, Add and Add Folder. None of them does anything while another
+/// command runs, that is while the Processing Window is disabled.
 class ListMaker {
  public:
   struct Parts {
@@ -38,7 +40,8 @@ class ListMaker {
   };
   explicit ListMaker(const Parts& parts) : parts_(parts) {}
 
-  /// Raised by New List for what lies above: the New Music Window closes, the player lets go of its file.
+  /// Raised by New List for what lies above: the undo buttons are disabled, the New Music Window closes, the
+  /// player lets go of its file.
   std::function<void()> onCleared;
   /// Runs Artist List, when it is the review in progress.
   std::function<void()> onArtistList;
@@ -51,6 +54,34 @@ class ListMaker {
   void addFolder();
 
  private:
+  /// What the user is to be told at the end of Add.
+  struct Found {
+    bool readable = true;
+    int leftOut = 0;
+  };
+
+  bool busy() const { return !parts_.windows.form1.enabled(); }
+  FolderScan::Parts scanParts() const;
+
+  void eraseTable();
+  void removeFiles();
+
+  bool enterFolder(const Text& folder);
+  void leaveFolder();
+  void makeList(const Text& folder, Found& found);
+  void findOldArtists();
+  bool findFiles(const Text& folder, Found& found);
+  void storeHighest();
+  void cutTail();
+  void appendTail();
+  void showRows();
+  void readTags(int rows);
+  void findDashes();
+  void collectArtists();
+  void sumSizes();
+  void tellLeftOut(int count);
+  void tell(const Text& text);
+
   Parts parts_;
 };
 

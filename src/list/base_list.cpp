@@ -1,0 +1,24 @@
+#include "list/base_list.h"
+
+#include <utility>
+
+#include "platform/file_error.h"
+
+namespace velmora::list {
+
+void BaseList::refresh(const Text& root, Text caption) {
+  parts_.progress.setText(std::move(caption));
+  std::vector<Text> found;
+  FolderScan scan(parts_, FolderScan::Mode::BaseRefresh);
+  scan.onMusic = [&found](Text path) { found.push_back(std::move(path)); };
+  try {
+    scan.Pretrazi(root);
+  } catch (const platform::FileError&) {
+    return;
+  }
+  if (parts_.table.Stop) return;
+  parts_.table.bazaniz = std::move(found);
+  data_.writeList(u"bazaniz.txt", parts_.table.bazaniz);
+}
+
+}  // namespace velmora::list

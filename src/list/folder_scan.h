@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include "core/track_table.h"
+#include "platform/desktop.h"
+#include "platform/files.h"
+#include "ui/form5.h"
+#include "ui/progress.h"
+
+namespace velmora::list {
+
+/// One walk over a tree of folders: hands out what it finds, in the order of the file system, each folder's
+/// files before its subfolders. A real folder is walked once, however many links lead to it. Subfolders that
+/// cannot be read are passed over. Ends early on Stop.
+class FolderScan {
+ public:
+  enum class Mode {
+    NewMusic = 0,    ///< music and other files are told apart by the extensions that Form5 enables
+    BaseRefresh = 1  ///< every file counts as music
+  };
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    platform::Desktop& desktop;
+    ui::Progress& progress;
+    const ui::Form5& form5;
+  };
+  FolderScan(const Parts& parts, Mode mode);
+
+  std::function<void(Text path)> onMusic;
+  std::function<void(Text path)> onOther;
+
+  /// Walks `folder`, less the trees that lie under an earlier entry of `bazepesama`. Throws FileError when
+  /// `folder` itself cannot be read.
+  void Pretrazi(const Text& folder);
+
+  /// Entries whose names no record can carry, so that they were passed over, folders with all they hold.
+  int leftOut() const { return leftOut_; }
+
+ private:
+  void walk(const Text& folder);
+  bool onListAlready(TextView folder) const;
+  std::vector<Text> takeFiles(const Text& folder);
+  void takeFile(TextView name, Text path);
+  void afterEntry();
+  void showFound();
+
+  Parts parts_;
+  Mode mode_;
+  std::vector<Text> extensions_;
+  std::set<platform::FolderId> walked_;
+  std::int64_t music_ = 0;
+  std::int64_t other_ = 0;
+  int leftOut_ = 0;
+  std::optional<std::int64_t> shownAt_;  // milliseconds
+};
+
+/// Names of the folders on the second level under the Music Base folder: its artists, genre by genre. What
+/// cannot be read or carried is passed over.
+std::vector<Text> artistFolders(const FolderScan::Parts& parts, const Text& base);
+
+}  // namespace velmora::list
