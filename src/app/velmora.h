@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "app/events.h"
 #include "core/track_table.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
@@ -26,6 +27,8 @@ struct Folders {
   Text shipped;
 };
 
+struct House;
+
 /// The program: owns everything, in order, wires controls to commands, and knows how it starts and ends.
 class Velmora {
  public:
@@ -34,7 +37,8 @@ class Velmora {
   Velmora(const Velmora&) = delete;
   Velmora& operator=(const Velmora&) = delete;
 
-  /// Raised once when the program has ended; the event loop should then be left.
+  /// Raised once when the program has ended; the event loop should then be left. That may be before start()
+  /// has returned.
   std::function<void()> onEnd;
 
   /// Loads the table, brings up the window that was in front, and resumes what was interrupted.
@@ -46,9 +50,9 @@ class Velmora {
   ui::Windows& windows();
   /// The shared model, for tests and benchmarks.
   core::TrackTable& table();
+  Events& events();
 
  private:
-  struct House;
   std::unique_ptr<House> house_;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "ui/dialog1.h"
 #include "ui/dialog2.h"
 #include "ui/form1.h"
@@ -24,6 +26,11 @@ struct Windows {
   Dialog2 dialog2;
   FrmTip frmTip;
   FrmAbout frmAbout;
+
+  /// All of them, for what concerns every window alike.
+  std::array<Window*, 10> all() {
+    return {&form1, &form3, &form5, &form6, &form7, &form8, &dialog1, &dialog2, &frmTip, &frmAbout};
+  }
 };
 
 }  // namespace velmora::ui

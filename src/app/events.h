@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+
+namespace velmora::app {
+
+/// What starting, ending and changing windows raise for the commands concerned. An event that nobody handles
+/// does nothing.
+struct Events {
+  // A review that the last run left is to go on.
+  std::function<void()> onResumeArtistList;
+  std::function<void()> onResumeCheckFix;
+  std::function<void()> onResumeDuplicates;
+  /// The user leaves the Processing Window in the middle of a review: Exit From Step 3.
+  std::function<void()> onExitReview;
+  /// Whether the newest stretch of the journal is one that Undo of the Processing Window takes back.
+  std::function<void(bool canUndo)> onUndoState;
+
+  /// The lists of the Music Base Window are to be filled from the folder tree.
+  std::function<void()> onListBase;
+  /// The state of its lists is to be brought back, and to be stored.
+  std::function<void()> onRestoreBaseLists;
+  std::function<void()> onStoreBaseLists;
+  /// "Show New Music Window".
+  std::function<void()> onShowNewMusic;
+
+  /// The program ends: timers stop, and files that are open are let go.
+  std::function<void()> onEnding;
+};
+
+inline void raise(const std::function<void()>& event) {
+  if (event) event();
+}
+
+}  // namespace velmora::app

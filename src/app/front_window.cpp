@@ -1,0 +1,66 @@
+#include "app/front_window.h"
+
+namespace velmora::app {
+
+namespace {
+
+constexpr int processing = 1;  // values of aktivniprozor
+constexpr int base = 3;
+
+}  // namespace
+
+void FrontWindow::showBase() {
+  parts_.windows.form1.hide();
+  parts_.base.loadOnce();
+  parts_.windows.form3.show();
+  parts_.windows.form3.bringToFront();
+  parts_.table.aktivniprozor = base;
+}
+
+void FrontWindow::baseActivated() {
+  // The notice may arrive after the window was left again.
+  if (parts_.windows.form3.visible()) parts_.table.aktivniprozor = base;
+}
+
+void FrontWindow::showProcessing() {
+  parts_.base.storeLists();
+  parts_.windows.form3.hide();
+  parts_.table.aktivniprozor = processing;
+  parts_.windows.form1.setEnabled(true);
+  parts_.windows.form1.show();
+  parts_.closing.moze();
+}
+
+void FrontWindow::assort() {
+  const bool hasRows = parts_.table.brojfajlova() >= 1;
+  showBase();
+  if (!hasRows) return;
+  parts_.table.sourceprozor = 0;
+  raise(parts_.events.onShowNewMusic);
+  if (parts_.settings.get(u"DirZaBazu").empty()) offerBaseFolder();
+  parts_.table.aktivniprozor = base;
+}
+
+void FrontWindow::offerBaseFolder() {
+  const platform::Answer answer = parts_.dialogs.message(
+      u"Music Base folder was not selected. You can select now or latter by click on most left folder icon."
+      u"\r\n\r\nSelect now?",
+      u"New Music Files Window", platform::Buttons::YesNo, platform::Icon::Question);
+  if (answer == platform::Answer::Yes) parts_.base.selectMainFolder();
+}
+
+void FrontWindow::closeProcessing() {
+  ui::Form1& form1 = parts_.windows.form1;
+  if (!form1.visible()) return;
+  if (parts_.table.vrsta != 0) {
+    const platform::Answer answer =
+        parts_.dialogs.message(u"Process in progres and will be stopped. You want to continue ?",
+                               u"Processing Window", platform::Buttons::YesNo, platform::Icon::Question);
+    if (answer != platform::Answer::Yes) return;
+    raise(parts_.events.onExitReview);
+    parts_.table.vrsta = 0;
+  }
+  assort();
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/base_window.h"
+#include "app/events.h"
+#include "core/settings.h"
+#include "core/track_table.h"
+#include "list/closing_step.h"
+#include "platform/dialogs.h"
+#include "ui/windows.h"
+
+namespace velmora::app {
+
+/// The roads from one main window to another.
+class FrontWindow {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    core::Settings& settings;
+    platform::Dialogs& dialogs;
+    ui::Windows& windows;
+    list::ClosingStep& closing;
+    BaseWindow& base;
+    Events& events;
+  };
+  explicit FrontWindow(const Parts& parts) : parts_(parts) {}
+
+  /// Hides the Processing Window and brings up the Music Base Window.
+  void showBase();
+  /// "Show Processing Window".
+  void showProcessing();
+  /// Assort Files Per Folders: on to the Music Base Window, with the working list where there is one.
+  void assort();
+  /// The user closes the Processing Window: it only hides, and the Music Base Window comes up. A review that
+  /// runs is ended first, if the user agrees.
+  void closeProcessing();
+  /// The Music Base Window came to the front.
+  void baseActivated();
+
+ private:
+  void offerBaseFolder();
+
+  Parts parts_;
+};
+
+}  // namespace velmora::app

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <functional>
+
+#include "app/base_window.h"
+#include "app/events.h"
+#include "app/front_window.h"
+#include "app/modal_wait.h"
+#include "app/processing_window.h"
+#include "app/table_loader.h"
+#include "app/velmora.h"
+#include "app/work.h"
+#include "core/data_folder.h"
+#include "core/settings.h"
+#include "core/track_table.h"
+#include "list/artist_completion.h"
+#include "list/closing_step.h"
+#include "list/list_maker.h"
+#include "list/list_views.h"
+#include "list/other_files.h"
+#include "names/dash_finder.h"
+#include "player/hand_over.h"
+#include "review/artist_book.h"
+#include "review/undo_journal.h"
+#include "tags/busy_file.h"
+#include "tags/file_panel.h"
+#include "tags/tag_cache.h"
+#include "tags/update_tags.h"
+#include "ui/option_store.h"
+#include "ui/progress.h"
+#include "ui/tips.h"
+#include "ui/windows.h"
+
+namespace velmora::app {
+
+/// Everything there is, in the order in which it is built: each member may use those above it.
+struct House {
+  House(const Services& services, Folders folders);
+  House(const House&) = delete;
+  House& operator=(const House&) = delete;
+
+  Services services;
+  Folders folders;
+  Events events;
+  std::function<void()> onEnd;
+  bool loaded = false;        ///< the table was loaded, so it may be stored
+  bool ending = false;        ///< the end was asked for; no wait goes on
+  bool shuttingDown = false;  ///< the end is under way
+  bool ended = false;
+  bool showingRow = false;  ///< a click on the file list fills the boxes
+
+  // The model and its files.
+  ui::Windows windows;
+  core::TrackTable table;
+  core::Settings settings;
+  core::DataFolder data;
+
+  // What the windows themselves need.
+  ui::OptionStore options;
+  ui::Tips tips;
+  ui::Progress progress;
+  Work work;
+  ModalWait modal;
+
+  // The commands.
+  player::NoFileHolder player;
+  tags::TagCache tagCache;
+  tags::FilePanel panel;
+  tags::BusyFile busyFile;
+  tags::TagWriter tagWriter;
+  review::UndoJournal journal;
+  review::ArtistBook artists;
+  names::DashFinder dashes;
+  list::ClosingStep closing;
+  list::ListMaker listMaker;
+  list::ListViews listViews;
+  list::OtherFiles otherFiles;
+  list::ArtistCompletion completion;
+
+  // Starting, ending and changing windows.
+  TableLoader loader;
+  ProcessingWindow processing;
+  BaseWindow base;
+  FrontWindow front;
+
+  /// Ends the program as soon as nothing runs; a running command is stopped, a window that waits is closed.
+  void requestEnd();
+};
+
+}  // namespace velmora::app

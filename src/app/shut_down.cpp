@@ -1,0 +1,61 @@
+#include "app/shut_down.h"
+
+#include "app/guarded.h"
+#include "app/house.h"
+
+namespace velmora::app {
+
+namespace {
+
+void unloadForm1(House& house) {
+  const core::TrackTable& table = house.table;
+  core::Settings& settings = house.settings;
+  guarded([&] { house.processing.store(); });
+  guarded([&] {
+    settings.setNumber(u"aktivniprozor", table.aktivniprozor);
+    settings.setNumber(u"vrsta", table.vrsta);
+  });
+  guarded([&] { house.data.savenizove(table); });
+  guarded([&] {
+    const ui::ListBox& pair = house.windows.form1.List6;
+    if (pair.ListCount() < 2) return;
+    settings.setNumber(u"vratidup1", pair.ItemData(0));
+    settings.setNumber(u"vratidup2", pair.ItemData(1));
+  });
+  guarded([&] { raise(house.events.onEnding); });
+  guarded([&] {
+    settings.setBoolean(u"dupli", house.windows.form7.similarFilename.chosen());
+    settings.setNumber(u"ton", table.ton);
+  });
+  guarded([&] { house.player.close(); });
+}
+
+void leave(House& house) {
+  for (ui::Window* window : house.windows.all()) window->hide();
+  guarded([&] { house.services.desktop.pumpEvents(); });
+  house.ended = true;
+  raise(house.onEnd);
+}
+
+}  // namespace
+
+void shutDown(House& house) {
+  if (house.ended || house.shuttingDown) return;
+  house.shuttingDown = true;
+  // Before the load there is nothing to store, and an empty table would wipe the files of the last run.
+  if (house.loaded) {
+    house.base.unload();
+    house.windows.form3.hide();
+    house.windows.form1.hide();
+    unloadForm1(house);
+  }
+  leave(house);
+}
+
+void giveWay(House& house) {
+  house.ending = true;
+  house.shuttingDown = true;
+  leave(house);
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,112 @@
+#include "app/start_up.h"
+
+#include "app/enable_commands.h"
+#include "app/guarded.h"
+#include "app/house.h"
+#include "app/shut_down.h"
+#include "core/number_text.h"
+#include "core/paths.h"
+
+namespace velmora::app {
+
+namespace {
+
+constexpr int processingInFront = 1;  // aktivniprozor
+
+bool givesWay(House& house) {
+  if (!house.services.desktop.anotherInstanceRunning()) return false;
+  const platform::Answer answer = house.services.dialogs.message(
+      u"Another instance of this program is already open. Click OK to shutdown this execution.", u"Velmora",
+      platform::Buttons::OkCancel, platform::Icon::None);
+  return answer == platform::Answer::Ok;
+}
+
+void loadForm1(House& house) {
+  core::TrackTable& table = house.table;
+  table.niznomusic.clear();
+  guarded([&] { house.options.loadForm7(); });
+  house.processing.load();
+  guarded([&] { house.options.loadForm5(); });
+  guarded([&] { house.options.loadForm6(); });
+  guarded([&] { house.options.loadDialog2(); });
+  guarded([&] { table.aktivniprozor = core::intValue(house.settings.get(u"aktivniprozor")); });
+  house.loader.load();
+  table.vrsta = 0;
+  house.loaded = true;
+}
+
+/// Lets a window paint before the long steps that follow.
+void pump(House& house) {
+  guarded([&] { house.services.desktop.pumpEvents(); });
+}
+
+void showTip(House& house) {
+  if (house.ending || !ui::showsTipsAtStartup(house.settings)) return;
+  constexpr TextView fileName = u"TIPOFDAY.TXT";
+  Text path = core::paths::join(house.folders.program, fileName);
+  if (!house.services.files.fileExists(path)) {
+    const Text shipped = core::paths::join(house.folders.shipped, fileName);
+    if (house.services.files.fileExists(shipped)) path = shipped;
+  }
+  house.tips.load(path);
+  house.modal.run(house.windows.frmTip);
+}
+
+/// The review that ran when the program last ended; what is none counts as none.
+int storedReview(const House& house) {
+  const int stored = core::intValue(house.settings.get(u"vrsta"));
+  for (const int review : {1, 2, 3, 11, 12, 98})
+    if (stored == review) return review;
+  return 0;
+}
+
+void resume(House& house, const std::function<void()>& review) {
+  if (!house.ending) house.work.wait([&] { guarded([&] { raise(review); }); });
+}
+
+void startInProcessingWindow(House& house) {
+  const int review = storedReview(house);
+  house.table.vrsta = review;
+  house.windows.form1.show();
+  pump(house);
+  guarded([&] { showTip(house); });
+  if (review == 3) resume(house, house.events.onResumeArtistList);
+  house.processing.restoreLists();
+  if (review == 2) {
+    resume(house, house.events.onResumeDuplicates);
+  } else if (review != 0 && review != 3) {
+    resume(house, house.events.onResumeCheckFix);
+  }
+}
+
+void startInBaseWindow(House& house) {
+  // The lists are brought back here too, or the first end without a look at them would store them empty.
+  house.processing.restoreLists();
+  house.front.showBase();
+  pump(house);
+  guarded([&] { showTip(house); });
+}
+
+void finishForm1(House& house) {
+  guarded([&] {
+    if (house.events.onUndoState) house.events.onUndoState(house.journal.lastUndoMarker() == "st1");
+  });
+  house.table.puniliste = 0;
+  guarded([&] { house.processing.fillGenres(); });
+  enableCommands(house);
+}
+
+}  // namespace
+
+void startUp(House& house) {
+  if (givesWay(house)) return giveWay(house);
+  loadForm1(house);
+  if (house.table.aktivniprozor == processingInFront) {
+    startInProcessingWindow(house);
+  } else {
+    startInBaseWindow(house);
+  }
+  finishForm1(house);
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,82 @@
+#include "app/enable_commands.h"
+#include "app/house.h"
+#include "app/wiring.h"
+#include "core/number_text.h"
+
+namespace velmora::app {
+
+namespace {
+
+/// The boxes of the panel go into the tags of the current row, as one step that can be undone.
+void update(House& house) {
+  house.journal.appendUndoMarker("st1");
+  house.tagWriter.UpdateTags();
+  house.data.SaveID3nizove(house.table);
+}
+
+void closeRequested(House& house) {
+  // A window in front of this one is answered first; a command is stopped, and the window closes behind it.
+  if (house.modal.open()) return house.modal.remind();
+  if (!house.ending) house.work.whenAtRest([&house] { house.front.closeProcessing(); });
+}
+
+void wireLists(House& house) {
+  ui::Form1& form1 = house.windows.form1;
+  form1.List4.onClick = [&house] {
+    house.showingRow = true;
+    house.listViews.List4Click();
+    house.showingRow = false;
+    enableCommands(house);
+  };
+  form1.List1.onClick = [&house] { house.listViews.List1Click(); };
+  form1.List3.onClick = [&house] { house.completion.List3Click(); };
+  const auto offerArtists = [&house] {
+    // Only what the user types is completed, not what a click or a batch puts in the box.
+    if (house.windows.form1.enabled() && !house.showingRow) house.completion.boxChanged();
+  };
+  form1.Text1.onChange = offerArtists;
+  form1.Text1.onKey = [&house](ui::KeyPress press) { return house.completion.nameBoxKey(press); };
+  form1.Text8.onChange = offerArtists;
+  form1.tags.viewID3v1.onClick = [&house] { house.panel.showTags(); };
+  form1.tags.viewID3v2.onClick = [&house] { house.panel.showTags(); };
+  form1.folderTree.onClick = [&house] {
+    if (!house.windows.form1.enabled()) return;
+    house.listViews.folderTreeClick();
+    enableCommands(house);
+  };
+}
+
+}  // namespace
+
+void wireForm1(House& house) {
+  ui::Form1& form1 = house.windows.form1;
+  form1.onCloseRequest = [&house] { closeRequested(house); };
+  form1.onActivate = [&house] { house.progress.restore(); };
+  form1.onDeactivate = [&house] { house.processing.storePlace(); };
+
+  form1.newList.onClick = command(house, form1, [&house] { house.listMaker.newList(); });
+  form1.add.onClick = command(house, form1, [&house] { house.listMaker.add(); });
+  form1.addFolder.onClick = command(house, form1, [&house] { house.listMaker.addFolder(); });
+  form1.muzickiFajlovi.onClick = command(house, form1, [&house] { house.listViews.showMusicFiles(); });
+  form1.ostali.onClick = command(house, form1, [&house] { house.listViews.showOtherFiles(); });
+  form1.otherFiles.onClick = command(house, form1, [&house] {
+    house.otherFiles.open();
+    house.modal.run(house.windows.form8);
+  });
+  form1.update.onClick = command(house, form1, [&house] { update(house); });
+  form1.assort.onClick = command(house, form1, [&house] { house.front.assort(); });
+  form1.options.onClick = opens(house, form1, house.windows.form5);
+  form1.fixOptions.onClick = opens(house, form1, house.windows.dialog2);
+  form1.checkFixOptions.onClick = opens(house, form1, house.windows.form6);
+  form1.duplicateOptions.onClick = opens(house, form1, house.windows.form7);
+  form1.about.onClick = opens(house, form1, house.windows.frmAbout);
+  wireLists(house);
+
+  house.tagWriter.onWritten = [&house](int row, const Text& rowSnapshot) {
+    house.journal.appendUndoRecord("id3", core::number(std::int64_t{row}), rowSnapshot);
+  };
+  house.busyFile.givenUp = [&house] { return house.table.Stop || house.ending; };
+  house.listMaker.onCleared = [&house] { house.player.close(); };
+}
+
+}  // namespace velmora::app

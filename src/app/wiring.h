@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+namespace velmora::ui {
+class Window;
+}
+
+namespace velmora::app {
+
+struct House;
+
+// One function per window binds its controls to the commands, so that the wiring of a window can be read on a
+// page.
+void wireForm1(House& house);
+void wireForm3(House& house);
+void wireForm8(House& house);
+/// Form5, Form6, Form7 and Dialog2.
+void wireOptions(House& house);
+/// Dialog1, frmTip and frmAbout.
+void wireSmallWindows(House& house);
+
+/// A handler that runs `run` as a command: not while its window is disabled, and not inside another command.
+std::function<void()> command(House& house, ui::Window& window, std::function<void()> run);
+/// A handler that opens `opened` over `parent` and returns when it is closed.
+std::function<void()> opens(House& house, ui::Window& parent, ui::Window& opened);
+
+}  // namespace velmora::app

@@ -1,0 +1,47 @@
+#include "tests/support/headless_velmora.h"
+
+namespace velmora::test {
+
+HeadlessVelmora::HeadlessVelmora()
+    : trash(files, folder.path(u"trash")), settings(files, folder.path(u"program/Settings.ini")) {
+  folder.mkdir(u"program");
+  folder.mkdir(u"music");
+  settings.set(u"showtipsasstartup", u"False");
+  build();
+}
+
+HeadlessVelmora::~HeadlessVelmora() = default;
+
+void HeadlessVelmora::build() {
+  app_.reset();
+  app_ = std::make_unique<app::Velmora>(
+      app::Services{.files = files, .trash = trash, .dialogs = dialogs, .desktop = desktop},
+      app::Folders{.program = programFolder(), .shipped = folder.path(u"shipped")});
+  app_->onEnd = [this] { ++ends; };
+}
+
+Text HeadlessVelmora::song(TextView name, BytesView bytes) const {
+  return folder.write(u"music/" + Text(name), bytes);
+}
+
+void HeadlessVelmora::start() {
+  app_->start();
+}
+
+void HeadlessVelmora::restart() {
+  app_->requestEnd();
+  build();
+  app_->start();
+}
+
+void HeadlessVelmora::startInProcessingWindow() {
+  start();
+  if (!form1().visible()) form3().showProcessingWindow.click();
+}
+
+void HeadlessVelmora::addFolder(const Text& path) {
+  dialogs.expectFolder(u"Select folder where are music for add on list.", path);
+  form1().addFolder.click();
+}
+
+}  // namespace velmora::test
