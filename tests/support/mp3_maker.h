@@ -29,9 +29,9 @@ Bytes mpegFrames(int frames = 40, const MpegFormat& format = {});
 
 /// The values of a tag; an empty one is left out.
 struct SongTags {
-  Text title, artist, album, year;
+  Text title{}, artist{}, album{}, year{};
   int track = 0;
-  Text genre;  ///< as it stands in the tag, such as "Rock" or "(17)"
+  Text genre{};  ///< as it stands in the tag, such as "Rock" or "(17)"
 };
 
 /// The 128 bytes of an ID3v1 tag in the track form.

@@ -1,0 +1,184 @@
+#include "tags/file_panel.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/tags/tag_fixture.h"
+
+namespace velmora::tags {
+namespace {
+
+using test::Id3v2Maker;
+
+const test::SongTags first{u"First", u"Artist 1", u"Album 1", u"1991", 1, {}};
+const test::SongTags second{u"Second", u"Artist 2", u"Album 2", u"1992", 2, u"Rock"};
+
+class Panel : public TagFixture {
+ protected:
+  Panel() {
+    // As the program wires it.
+    form1.tags.viewID3v1.onClick = [this] { panel.showTags(); };
+    form1.tags.viewID3v2.onClick = [this] { panel.showTags(); };
+    neither = add(u"neither.mp3", audio);
+    onlyFirst = add(u"first.mp3", audio + test::id3v1Tag(first, 17));
+    onlySecond = add(u"second.mp3", Id3v2Maker().values(second).padding(50).bytes() + audio);
+    both =
+        add(u"both.mp3", Id3v2Maker().values(second).padding(50).bytes() + audio + test::id3v1Tag(first, 17));
+    table.setBrojfajlova(table.rows());
+  }
+  int add(const Text& name, const Bytes& bytes) {
+    table.appendPath(folder.write(name, bytes));
+    table.resizeColumns();
+    return table.rows();
+  }
+  void info(int row, InfoMode mode = InfoMode::Full) { panel.info(table.path(row), row, mode); }
+  /// Which view is in use, and which is chosen: "1 2*".
+  std::string views() const {
+    std::string text;
+    if (form1.tags.viewID3v1.enabled()) text += form1.tags.viewID3v1.chosen() ? "1*" : "1";
+    if (form1.tags.viewID3v2.enabled()) text += form1.tags.viewID3v2.chosen() ? " 2*" : " 2";
+    return text;
+  }
+  const Text& title() const { return form1.tags.title.text(); }
+
+  const Bytes audio = test::mpegFrames(40);
+  TagCache cache{table, files};
+  ui::Form1 form1;
+  FilePanel panel{table, files, cache, form1};
+  int neither, onlyFirst, onlySecond, both;
+};
+
+TEST_F(Panel, ShowsTheFactsOfAnMpegFile) {
+  Bytes song = test::mpegHeader({});
+  song.resize(4'000'000, '\0');
+  const int row = add(u"Long.MP3", song);
+  info(row);
+  EXPECT_EQ(table.currentRow, row);
+  EXPECT_EQ(form1.fileSize.text(), u" 3.81 MB");
+  EXPECT_EQ(form1.frequency.text(), u"44100 kHz");
+  EXPECT_EQ(form1.bitRate.text(), u"128 kbps");
+  EXPECT_EQ(form1.mode.text(), u"Stereo");
+  EXPECT_EQ(form1.fileLength.text(), u"04:10 sec");
+  EXPECT_EQ(form1.path.text(), table.path(row));
+}
+
+TEST_F(Panel, OtherFilesHaveTheLengthThatThePlayerKnows) {
+  info(both);
+  panel.durationOf = [this](const Text& path) { return path == table.path(5) ? 205.9 : 0; };
+  const int row = add(u"Some song.ogg", "x");
+  info(row);
+  EXPECT_EQ(form1.fileLength.text(), u"03:25 sec");
+  EXPECT_EQ(form1.Text1.text(), u"Some song");
+  EXPECT_EQ(form1.frequency.text(), u"");
+  EXPECT_EQ(form1.bitRate.text(), u"");
+  EXPECT_EQ(form1.mode.text(), u"");
+  EXPECT_EQ(title(), u"");
+}
+
+TEST_F(Panel, AFileOfNoBytesIsNotRead) {
+  const int row = add(u"empty.mp3", "");
+  info(both);
+  info(row);
+  EXPECT_EQ(form1.fileSize.text(), u" 0 MB");
+  EXPECT_EQ(form1.frequency.text(), u"");
+  EXPECT_EQ(form1.fileLength.text(), u"");
+  EXPECT_EQ(views(), "");
+  EXPECT_EQ(title(), u"");
+  EXPECT_TRUE(table.track(row).procitan.isNothing());
+}
+
+TEST_F(Panel, AMissingFileLeavesThePanelBlankAndTheColumnsAsTheyWere) {
+  files.remove(table.path(both));
+  info(onlyFirst);
+  info(both);
+  EXPECT_EQ(form1.fileSize.text(), u"");
+  EXPECT_EQ(form1.path.text(), table.path(both));
+  EXPECT_EQ(views(), "");
+  EXPECT_EQ(title(), u"");
+  EXPECT_TRUE(table.track(both).procitan.isNothing());
+}
+
+TEST_F(Panel, ViewsFollowTheTagsAndTheChoice) {
+  info(both);
+  EXPECT_EQ(views(), "1 2*") << "with no choice before, ID3v2 wins";
+  form1.tags.viewID3v1.click();
+  EXPECT_EQ(title(), u"First");
+  info(both);
+  EXPECT_EQ(views(), "1* 2");
+  info(onlySecond);
+  EXPECT_EQ(views(), " 2*") << "the other tag is not there to be shown";
+  info(onlyFirst);
+  EXPECT_EQ(views(), "1") << "ID3v2 was the choice";
+  EXPECT_EQ(title(), u"");
+  info(onlyFirst);
+  EXPECT_EQ(views(), "1*");
+  info(neither);
+  EXPECT_EQ(views(), "");
+  info(both);
+  EXPECT_EQ(views(), "1 2*");
+}
+
+TEST_F(Panel, TheBoxesShowTheChosenTag) {
+  info(both);
+  const ui::TagPanel& tags = form1.tags;
+  EXPECT_EQ(tags.title.text(), u"Second");
+  EXPECT_EQ(tags.artist.text(), u"Artist 2");
+  EXPECT_EQ(tags.album.text(), u"Album 2");
+  EXPECT_EQ(tags.year.text(), u"1992");
+  EXPECT_EQ(tags.track.text(), u"2");
+  EXPECT_EQ(tags.genre.text(), u"Rock");
+  form1.tags.viewID3v1.click();
+  EXPECT_EQ(tags.title.text(), u"First");
+  EXPECT_EQ(tags.year.text(), u"1991");
+  EXPECT_EQ(tags.track.text(), u" 1");
+  info(neither);
+  for (const ui::TextBox* box : {&tags.title, &tags.artist, &tags.album, &tags.year, &tags.track})
+    EXPECT_EQ(box->text(), u"");
+  EXPECT_EQ(tags.genre.text(), u"");
+}
+
+TEST_F(Panel, ARowThatWasReadIsShownFromItsColumns) {
+  info(both);
+  table.track(both).pesmaid3v2 = u"Changed";
+  info(both);
+  EXPECT_EQ(title(), u"Changed");
+}
+
+TEST_F(Panel, TagsOnlyLeavesThePanelAlone) {
+  info(onlyFirst);
+  const std::string before = views();
+  info(both, InfoMode::TagsOnly);
+  EXPECT_EQ(views(), before);
+  EXPECT_EQ(title(), u"First");
+  EXPECT_EQ(form1.path.text(), table.path(onlyFirst));
+  EXPECT_EQ(table.currentRow, both);
+  EXPECT_EQ(table.track(both).pesmaid3v2.text(), u"Second");
+}
+
+TEST_F(Panel, WorkingRowsOnlyLeavesTheTailUnread) {
+  table.setBrojfajlova(both - 1);
+  info(both, InfoMode::WorkingRowsOnly);
+  EXPECT_EQ(form1.bitRate.text(), u"128 kbps");
+  EXPECT_EQ(views(), "");
+  EXPECT_TRUE(table.track(both).procitan.isNothing());
+  info(both - 1, InfoMode::WorkingRowsOnly);
+  EXPECT_EQ(views(), " 2*");
+  info(both);
+  EXPECT_TRUE(table.track(both).procitan.isTrue());
+}
+
+TEST_F(Panel, NamesAndClearing) {
+  table.setParts(both, u"Arvola ", u" Harbour");
+  info(both);
+  panel.showName(both);
+  EXPECT_EQ(form1.Text1.text(), u"both");
+  EXPECT_EQ(form1.Text8.text(), u"Arvola ");
+  EXPECT_EQ(form1.Text5.text(), u" Harbour");
+  panel.clear();
+  for (const ui::Label* label : {&form1.fileSize, &form1.fileLength, &form1.frequency, &form1.path})
+    EXPECT_EQ(label->text(), u"");
+  EXPECT_EQ(form1.Text1.text() + form1.Text8.text() + form1.Text5.text() + title(), u"");
+  EXPECT_EQ(views(), "");
+}
+
+}  // namespace
+}  // namespace velmora::tags

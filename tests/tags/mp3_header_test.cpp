@@ -1,0 +1,138 @@
+#include "tags/mp3_header.h"
+
+#include <gtest/gtest.h>
+
+#include "system/posix_files.h"
+#include "tests/support/memory_file.h"
+#include "tests/support/mp3_maker.h"
+#include "tests/support/temp_folder.h"
+
+namespace velmora::tags {
+namespace {
+
+using test::MpegFormat;
+
+clsMP3HeadReader readHeader(const Bytes& bytes, clsMP3HeadReader reader = {}) {
+  test::MemoryFile file(bytes);
+  SongBytes song(file);
+  reader.read(song);
+  return reader;
+}
+
+std::uint64_t tagEnd(const Bytes& bytes) {
+  test::MemoryFile file(bytes);
+  SongBytes song(file);
+  return ID3TagEnd(song);
+}
+
+Bytes withSize(const Bytes& header, std::size_t size) {
+  Bytes bytes = header;
+  bytes.resize(size, '\0');
+  return bytes;
+}
+
+TEST(Mp3Header, ReadsTheFieldsOfAnMpeg1Frame) {
+  const MpegFormat format{1, 3, 192, 48000, test::ChannelMode::JointStereo, true, true};
+  const auto header = readHeader(test::mpegFrames(10, format));
+  EXPECT_EQ(header.MPEG, u"MPEG-1");
+  EXPECT_EQ(header.Layer, 3);
+  EXPECT_EQ(header.Bitrate, 192);
+  EXPECT_EQ(header.Frequency, 48000);
+  EXPECT_EQ(header.Mode, u"Joint Stereo");
+  EXPECT_TRUE(header.IsPrivate);
+  EXPECT_TRUE(header.IsCopyright);
+  EXPECT_TRUE(header.IsProtected);  // the bit as it stands
+  EXPECT_FALSE(readHeader("\xFF\xFA\x90\x10").IsProtected);
+}
+
+TEST(Mp3Header, EveryBitRateOfMpeg1) {
+  const int rates[3][14] = {{32, 64, 96, 128, 160, 192, 224, 256, 288, 320, 352, 384, 416, 448},
+                            {32, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 384},
+                            {32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320}};
+  for (int layer = 1; layer <= 3; ++layer)
+    for (const int rate : rates[layer - 1]) {
+      const auto header = readHeader(test::mpegHeader({1, layer, rate, 32000}));
+      EXPECT_EQ(header.Layer, layer);
+      EXPECT_EQ(header.Bitrate, rate);
+      EXPECT_EQ(header.Frequency, 32000);
+    }
+}
+
+TEST(Mp3Header, ReservedIndexesGiveNothing) {
+  clsMP3HeadReader before;
+  before.Bitrate = 96;
+  EXPECT_EQ(readHeader("\xFF\xFB\x0C\x10", before).Bitrate, 0);  // index 0000
+  EXPECT_EQ(readHeader("\xFF\xFB\xFC\x10", before).Bitrate, 0);  // index 1111
+  EXPECT_EQ(readHeader("\xFF\xFB\x9C\x10", before).Frequency, 0);
+  const auto noLayer = readHeader("\xFF\xF9\x90\x10", before);
+  EXPECT_EQ(noLayer.Layer, 0);
+  EXPECT_EQ(noLayer.Bitrate, 96) << "without a layer the bit rate stays as it was";
+}
+
+TEST(Mp3Header, Mpeg2ShowsNoBitRateAndNoLength) {
+  const auto header = readHeader(test::mpegFrames(10, {2, 3, 64, 24000, test::ChannelMode::Mono}));
+  EXPECT_EQ(header.MPEG, u"MPEG-2");
+  EXPECT_EQ(header.Frequency, 24000);
+  EXPECT_EQ(header.Mode, u"Mono");
+  EXPECT_EQ(header.Bitrate, 0);
+  EXPECT_EQ(header.Length, 0);
+  EXPECT_EQ(readHeader("\xFF\xE3\x90\x10").MPEG, u"MPEG-2") << "2.5 counts as 2";
+
+  // The bit rate that the reader holds is what selects the row, not the index of the header.
+  clsMP3HeadReader before;
+  before.Bitrate = 1110;
+  EXPECT_EQ(readHeader("\xFF\xF5\x10\x10", before).Bitrate, 384);
+  before.Bitrate = 128;
+  EXPECT_EQ(readHeader("\xFF\xF5\x90\x10", before).Bitrate, 0);
+}
+
+TEST(Mp3Header, LengthComesFromTheSizeBehindTheTag) {
+  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 16'000'000)).Length, 1000);
+  // A half goes to the even neighbour: 16,000 bytes are a second.
+  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 40'000)).Length, 2);
+  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 56'000)).Length, 4);
+  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 40'001)).Length, 3);
+  const Bytes tag = test::Id3v2Maker().text("TIT2", u"Song").padding(5000).bytes();
+  EXPECT_EQ(readHeader(tag + withSize(test::mpegHeader({}), 64'000)).Length, 4);
+}
+
+TEST(Mp3Header, TagEndCountsAllEightBitsOfEachSizeByte) {
+  EXPECT_EQ(tagEnd("ID3\x03" + Bytes(2, '\0') + test::synchsafe32(300)), 310U);
+  EXPECT_EQ(tagEnd("ID3\x03" + Bytes(2, '\0') + Bytes("\x80\x81\x82\x83")),
+            (0x80ULL << 21) + (0x81ULL << 14) + (0x82ULL << 7) + 0x83 + 10);
+  EXPECT_EQ(tagEnd("id3\x03" + Bytes(6, '\x01')), 0U);
+  EXPECT_EQ(tagEnd("xID3\x03" + Bytes(6, '\x01')), 0U);
+  EXPECT_EQ(tagEnd(""), 0U);
+}
+
+TEST(Mp3Header, TheFirstByte255BehindTheTagIsTheFrame) {
+  const Bytes junk = Bytes(9000, '\x11');
+  EXPECT_EQ(readHeader(junk + test::mpegFrames(2)).Bitrate, 128);
+  // One in the junk counts, whatever follows it, and so does one in the tag's padding beyond its size.
+  const auto misled = readHeader("\xFF\x11\x22\x33" + test::mpegFrames(2));
+  EXPECT_EQ(misled.MPEG, u"MPEG-2");
+  EXPECT_EQ(misled.Layer, 0);
+  // One inside the tag does not.
+  const Bytes tag = test::Id3v2Maker().picture(6000).bytes();
+  EXPECT_EQ(readHeader(tag + test::mpegFrames(2)).Bitrate, 128);
+}
+
+TEST(Mp3Header, AFailedReadLeavesThePropertiesAsTheyWere) {
+  clsMP3HeadReader before;
+  before.Bitrate = 96;
+  before.Mode = u"Mono";
+  for (const Bytes& bytes : {Bytes(), Bytes(70'000, '\0'), Bytes("\xFF\xFB\x90")}) {
+    const auto after = readHeader(bytes, before);
+    EXPECT_EQ(after.Bitrate, 96);
+    EXPECT_EQ(after.Mode, u"Mono");
+  }
+  system::PosixFiles files;
+  const test::TempFolder folder;
+  before.ReadMP3Header(files, folder.path(u"missing.mp3"));
+  EXPECT_EQ(before.Bitrate, 96);
+  before.ReadMP3Header(files, folder.write(u"song.mp3", test::mpegFrames(2)));
+  EXPECT_EQ(before.Bitrate, 128);
+}
+
+}  // namespace
+}  // namespace velmora::tags

@@ -1,0 +1,275 @@
+#include "tags/update_tags.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+#include "core/text.h"
+#include "review/undo_journal.h"
+#include "tags/id3v1.h"
+#include "tags/id3v2.h"
+#include "tests/support/scripted_desktop.h"
+#include "tests/tags/tag_fixture.h"
+
+namespace velmora::tags {
+namespace {
+
+using platform::Answer;
+using test::Id3v2Maker;
+
+/// A player that notes what it is asked.
+class NotingHolder final : public player::FileHolder {
+ public:
+  Text file;
+  std::string notes;
+
+  bool holds(const Text& path) const override { return path == file; }
+  void release() override { notes += "release "; }
+  void giveBack(const Text& path) override { notes += path == file ? "give back " : "other "; }
+  void close() override {}
+};
+
+class Writer : public TagFixture {
+ protected:
+  Writer() {
+    form1.tags.viewID3v1.onClick = [this] { panel.showTags(); };
+    form1.tags.viewID3v2.onClick = [this] { panel.showTags(); };
+    writer.onWritten = [this](int row, const Text& snapshot) {
+      EXPECT_EQ(row, table.currentRow);
+      snapshots.push_back(snapshot);
+    };
+  }
+  /// The one row is a file of these bytes, and the panel shows it.
+  void show(const Bytes& bytes, const Text& name = u"song.mp3") {
+    table.appendPath(folder.write(name, bytes));
+    table.resizeColumns();
+    table.setBrojfajlova(table.rows());
+    panel.info(table.path(table.rows()), table.rows());
+  }
+  void fill(const Text& title, const Text& track = {}, const Text& genre = {}) {
+    form1.tags.title.setText(title);
+    form1.tags.artist.setText(u"Arvola");
+    form1.tags.album.setText(u"Lights");
+    form1.tags.year.setText(u"1999");
+    form1.tags.track.setText(track);
+    form1.tags.genre.setText(genre);
+  }
+  void update(bool toID3v1, bool toID3v2) {
+    form1.tags.writeID3v1.setChecked(toID3v1);
+    form1.tags.writeID3v2.setChecked(toID3v2);
+    writer.UpdateTags();
+    EXPECT_EQ(form1.tags.writeID3v1.checked(), toID3v1);
+    EXPECT_EQ(form1.tags.writeID3v2.checked(), toID3v2);
+  }
+  const core::Track& row() { return table.track(table.currentRow); }
+  cMP3ID3v1 firstTag() {
+    cMP3ID3v1 tag(files);
+    tag.setMP3File(table.path(table.currentRow));
+    return tag;
+  }
+  cMP3ID3v2 secondTag() {
+    cMP3ID3v2 tag(files);
+    tag.setMP3File(table.path(table.currentRow));
+    return tag;
+  }
+
+  const Bytes audio = test::mpegFrames(40);
+  const Bytes first = test::id3v1Tag({u"Old", u"Old", u"Old", u"1990", 3, {}}, 17);
+  const Bytes second =
+      Id3v2Maker().values({u"Old", u"Old", u"Old", u"1990", 3, u"Jazz"}).padding(500).plainBytes();
+  TagCache cache{table, files};
+  ui::Form1 form1;
+  FilePanel panel{table, files, cache, form1};
+  test::ScriptedDesktop desktop;
+  NotingHolder player;
+  BusyFile busyFile{files, desktop, form1.statusLabel};
+  TagWriter writer{{table, files, dialogs, desktop, player, busyFile, panel, form1}};
+  std::vector<Text> snapshots;
+};
+
+TEST_F(Writer, WritesTheTagsWhoseBoxesAreChecked) {
+  show(second + audio + first);
+  fill(u"New", u"5", u"Opera");
+  update(true, false);
+  EXPECT_EQ(firstTag().Title, u"New");
+  EXPECT_EQ(firstTag().Artist, u"Arvola");
+  EXPECT_EQ(firstTag().Track, 5);
+  EXPECT_EQ(firstTag().Genre, 103);
+  EXPECT_EQ(secondTag().Title(), u"Old");
+  EXPECT_EQ(row().pesmaid3v1.text(), u"New");
+  EXPECT_EQ(row().pesmaid3v2.text(), u"Old");
+  EXPECT_TRUE(row().procitan.isTrue()) << "read afresh";
+
+  fill(u"Newer", u"6", u"Opera");
+  update(false, true);
+  EXPECT_EQ(firstTag().Title, u"New");
+  EXPECT_EQ(secondTag().Title(), u"Newer");
+  EXPECT_EQ(secondTag().Track(), u"6");
+  EXPECT_EQ(secondTag().TagText("TCON", 1), u"(103)");
+  EXPECT_EQ(row().vrstaid3v2.text(), u"Opera");
+  EXPECT_EQ(form1.tags.title.text(), u"Newer");
+}
+
+TEST_F(Writer, AFirstTagShowsAtOnce) {
+  show(audio);
+  fill(u"New");
+  update(false, true);
+  EXPECT_TRUE(form1.tags.viewID3v2.enabled());
+  EXPECT_TRUE(form1.tags.viewID3v2.chosen());
+  EXPECT_EQ(form1.tags.title.text(), u"New");
+  EXPECT_TRUE(row().imaid3v2.isTrue());
+  EXPECT_EQ(folder.read(u"song.mp3").size(), audio.size() + 2048);
+
+  show(audio, u"other.mp3");
+  fill(u"First");
+  update(true, false);
+  EXPECT_TRUE(form1.tags.viewID3v1.chosen());
+  EXPECT_EQ(form1.tags.title.text(), u"First");
+  EXPECT_EQ(folder.read(u"other.mp3").size(), audio.size() + 127);
+}
+
+TEST_F(Writer, TheViewStaysWhereItWas) {
+  show(second + audio + first);
+  form1.tags.viewID3v1.click();
+  fill(u"New");
+  update(true, true);
+  EXPECT_TRUE(form1.tags.viewID3v1.chosen());
+  EXPECT_EQ(form1.tags.title.text(), u"New");
+}
+
+TEST_F(Writer, Genres) {
+  show(second + audio + first);
+  fill(u"New", {}, u"Blues");
+  update(true, true);
+  EXPECT_EQ(firstTag().Genre, 17) << "code 0 is never found, and the tag keeps what it had";
+  EXPECT_EQ(secondTag().TagText("TCON", 1), u"Blues");
+
+  fill(u"New", {}, u"  ");
+  update(true, true);
+  EXPECT_EQ(firstTag().Genre, 255);
+  EXPECT_EQ(secondTag().TagText("TCON", 1), u"(255)");
+
+  fill(u"New", {}, u"Turbo Folk");
+  update(true, true);
+  EXPECT_EQ(firstTag().Genre, 255);
+  EXPECT_EQ(secondTag().TagText("TCON", 1), u"Turbo Folk");
+}
+
+TEST_F(Writer, TrackNumbers) {
+  show(second + audio + first);
+  const auto written = [this](const Text& track) {
+    fill(u"New", track);
+    update(true, true);
+    return std::pair<int, Text>(firstTag().Track, secondTag().Track());
+  };
+  using Pair = std::pair<int, Text>;
+  EXPECT_EQ(written(u"12"), Pair(12, u"12"));
+  EXPECT_EQ(written(u"0"), Pair(0, u"0"));
+  EXPECT_EQ(form1.tags.track.text(), u"");
+  EXPECT_EQ(written(u""), Pair(0, u"0"));
+  EXPECT_EQ(written(u"300"), Pair(0, u"300")) << "no byte holds it";
+}
+
+TEST_F(Writer, TheUndoRecordHoldsTheRowAsItWasBefore) {
+  show(second + audio + first);
+  const Text before = review::rowSnapshot(table, table.currentRow);
+  fill(u"New");
+  update(true, true);
+  EXPECT_EQ(snapshots, std::vector{before});
+}
+
+TEST_F(Writer, OtherFormatsGetNoTags) {
+  for (const Text name : {u"song.mp2", u"song.ogg"}) {
+    show(audio + first, name);
+    fill(u"New");
+    update(true, true);
+    EXPECT_EQ(folder.read(name), audio + first);
+  }
+  show(audio, u"Capitals.MP3");
+  update(true, false);
+  EXPECT_EQ(snapshots.size(), 1U);
+}
+
+TEST_F(Writer, AbortAndIgnoreEndTheRowWithoutARecord) {
+  for (const Answer answer : {Answer::Abort, Answer::Ignore}) {
+    show(second + audio + first);
+    files.remove(table.path(table.currentRow));
+    fill(u"New");
+    dialogs.expect(
+        u"Error while Update ID3 V1 " + table.path(table.currentRow) + u" # 53 occurred:File not found",
+        u"Update ID3 tag", answer);
+    update(true, true);
+    dialogs.expect(
+        u"Error while Update ID3 V2 " + table.path(table.currentRow) + u" # 53 occurred:File not found",
+        u"Update ID3 tag", answer);
+    update(false, true);
+  }
+  EXPECT_TRUE(snapshots.empty());
+}
+
+TEST_F(Writer, AReadOnlyMarkIsTakenOff) {
+  show(audio + first);
+  ASSERT_EQ(::chmod(core::toBytes(table.path(1)).c_str(), 0444), 0);
+  fill(u"New");
+  update(true, false);
+  EXPECT_EQ(firstTag().Title, u"New");
+}
+
+TEST_F(Writer, ThePlayerLetsGoOfTheFileMeanwhile) {
+  show(audio + first);
+  player.file = table.path(1);
+  fill(u"New");
+  update(true, false);
+  EXPECT_EQ(player.notes, "release give back ");
+  EXPECT_TRUE(desktop.sleeps.empty());
+  player.notes.clear();
+  desktop.version = 259;
+  update(true, false);
+  EXPECT_EQ(desktop.sleeps, std::vector{100}) << "older systems need a moment";
+  player.file = u"another";
+  player.notes.clear();
+  update(true, false);
+  EXPECT_EQ(player.notes, "");
+  // A failure gives it back, too.
+  player.file = table.path(1);
+  files.remove(player.file);
+  dialogs.expectTitle(u"Update ID3 tag", Answer::Abort);
+  update(true, false);
+  EXPECT_EQ(player.notes, "release give back ");
+}
+
+TEST_F(Writer, WaitsWhileAnotherProgramHoldsTheFile) {
+  show(audio + first);
+  const int other = ::open(core::toBytes(table.path(1)).c_str(), O_RDWR);
+  ASSERT_EQ(::flock(other, LOCK_EX), 0);
+  desktop.then([this] { EXPECT_EQ(form1.statusLabel.text(), u"File is busy, please wait ..."); });
+  desktop.then([other] { ::close(other); });
+  fill(u"New");
+  update(true, false);
+  EXPECT_EQ(firstTag().Title, u"New");
+  EXPECT_EQ(form1.statusLabel.text(), u"");
+  EXPECT_EQ(desktop.sleeps, (std::vector{1000, 1000}));
+}
+
+TEST_F(Writer, AWaitThatIsGivenUpLeavesTheFileAlone) {
+  show(audio + first);
+  const int other = ::open(core::toBytes(table.path(1)).c_str(), O_RDWR);
+  ASSERT_EQ(::flock(other, LOCK_EX), 0);
+  bool stopped = false;
+  busyFile.givenUp = [&stopped] { return stopped; };
+  desktop.then([] {});
+  desktop.then([&stopped] { stopped = true; });
+  fill(u"New");
+  update(true, true);
+  EXPECT_EQ(desktop.sleeps.size(), 1U);
+  EXPECT_EQ(folder.read(u"song.mp3"), audio + first);
+  EXPECT_EQ(form1.statusLabel.text(), u"");
+  EXPECT_TRUE(snapshots.empty());
+  ::close(other);
+}
+
+}  // namespace
+}  // namespace velmora::tags
