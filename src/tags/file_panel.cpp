@@ -21,15 +21,19 @@ Text twoDigits(std::int64_t number) {
   return (number < 10 ? u"0" : u"") + core::plain(number);
 }
 
-void fill(ui::TagPanel& panel, const core::Element& title, const core::Element& artist,
+/// Shows the values in the boxes, save those that keep what was typed.
+void fill(ui::Form1& form1, const core::Element& title, const core::Element& artist,
           const core::Element& album, const core::Element& year, const core::Element& track,
           const core::Element& genre) {
-  panel.title.setText(title.text());
-  panel.artist.setText(artist.text());
-  panel.album.setText(album.text());
-  panel.year.setText(year.text());
-  panel.track.setText(track.text());
-  panel.genre.setText(genre.text());
+  const auto show = [&form1](auto& box, const ui::CheckBox& check, const core::Element& value) {
+    if (!form1.fieldChecks.keeps(check)) box.setText(value.text());
+  };
+  show(form1.tags.title, form1.fieldChecks.title, title);
+  show(form1.tags.artist, form1.fieldChecks.artist, artist);
+  show(form1.tags.album, form1.fieldChecks.album, album);
+  show(form1.tags.year, form1.fieldChecks.year, year);
+  show(form1.tags.track, form1.fieldChecks.track, track);
+  show(form1.tags.genre, form1.fieldChecks.genre, genre);
 }
 
 }  // namespace
@@ -114,15 +118,15 @@ void FilePanel::offerViews(const View& chosen) {
 
 void FilePanel::showTags() {
   const core::Track& track = table_.track(table_.currentRow);
-  ui::TagPanel& tags = form1_.tags;
+  const ui::TagPanel& tags = form1_.tags;
   if (tags.viewID3v2.chosen())
-    fill(tags, track.pesmaid3v2, track.pevacID3v2, track.albumid3v2, track.godinaid3v2, track.brojtrakeid3v2,
-         track.vrstaid3v2);
+    fill(form1_, track.pesmaid3v2, track.pevacID3v2, track.albumid3v2, track.godinaid3v2,
+         track.brojtrakeid3v2, track.vrstaid3v2);
   else if (tags.viewID3v1.chosen())
-    fill(tags, track.pesmaid3v1, track.pevacID3v1, track.albumid3v1, track.godinaid3v1, track.brojtrakeid3v1,
-         track.vrstaid3v1);
+    fill(form1_, track.pesmaid3v1, track.pevacID3v1, track.albumid3v1, track.godinaid3v1,
+         track.brojtrakeid3v1, track.vrstaid3v1);
   else
-    fill(tags, {}, {}, {}, {}, {}, {});
+    fill(form1_, {}, {}, {}, {}, {}, {});
 }
 
 void FilePanel::showName(int row) {
