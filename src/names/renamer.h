@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+
+#include "core/track_table.h"
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/file_error.h"
+#include "platform/files.h"
+#include "player/hand_over.h"
+#include "review/artist_book.h"
+#include "review/undo_journal.h"
+#include "tags/each_tag_writer.h"
+#include "ui/form1.h"
+
+namespace velmora::names {
+
+/// What a rename came to; Abort ends the batch that called it.
+enum class RenameResult { Done = 0, Abort = 1, Ignore = 2 };
+
+/// The one way in which the file of a row gets a new name.
+class Renamer {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    platform::Dialogs& dialogs;
+    platform::Desktop& desktop;
+    player::FileHolder& player;
+    review::UndoJournal& journal;
+    review::ArtistBook& artists;
+    tags::FilePanel& panel;
+    tags::EachTagWriter& tagWriter;
+    ui::Form1& form1;
+  };
+  explicit Renamer(const Parts& parts) : parts_(parts) {}
+
+  /// Raised in the duplicates view when a row has a new name: its comparison keys are to be made anew.
+  std::function<void(int row)> onDuplicateRenamed;
+
+  /// Gives the file of `row` the name in the name box, cleaned and, where another file has it, with blanks
+  /// behind it; the box shows the name that was taken. With `withUndo` the rename is journalled, and tags
+  /// that equal the old name follow the new one. A name that is the old one changes nothing. Failures are
+  /// shown.
+  RenameResult PromeniIme(int row, bool withUndo);
+  /// The rename alone: neither box nor table nor journal. Failures are shown.
+  RenameResult RenameNoList(int row, const Text& newPath);
+
+ private:
+  struct OldName {
+    Text path, artist, title;
+  };
+  void rename(int row, bool withUndo);
+  void cleanBox();
+  Text pathFromBox(const Text& oldPath) const;
+  /// Moves the file under the first free name and returns that path; `oldPath` when it stays where it is.
+  Text moveToFreeName(const Text& oldPath);
+  void record(int row, const Text& newPath);
+  void showNewPath(int row, const OldName& old, const Text& newPath);
+  void findDash(int row, const OldName& old);
+  void followWithTags(int row, const OldName& old);
+  RenameResult ask(const Text& text) const;
+
+  Parts parts_;
+};
+
+/// Whether two names differ in capitals alone.
+bool sameButForCapitals(TextView left, TextView right);
+
+}  // namespace velmora::names

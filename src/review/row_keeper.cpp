@@ -1,0 +1,67 @@
+#include "review/row_keeper.h"
+
+#include <algorithm>
+
+#include "core/number_text.h"
+#include "names/grammar.h"
+#include "platform/file_error.h"
+
+namespace velmora::review {
+
+namespace {
+
+constexpr int duplicatesView = 2;
+
+}  // namespace
+
+void fillFromSnapshot(core::Track& track, const RowSnapshot& snapshot) {
+  track.procitan = snapshot.procitan;
+  track.imaid3v1 = snapshot.imaid3v1;
+  track.imaid3v2 = snapshot.imaid3v2;
+  for (std::size_t i = 0; i < snapshot.tags.size(); ++i) track.*snapshotColumns()[i] = snapshot.tags[i];
+  track.nizdes = snapshot.path;
+}
+
+void RowKeeper::removeRow(int row) {
+  core::TrackTable& table = parts_.table;
+  if (!table.hasRow(row)) return;
+  parts_.journal.appendUndoRecord("izb", core::number(std::int64_t{row}), rowSnapshot(table, row));
+  const bool listed = row <= table.brojfajlova() && listShowsMusic();
+  const Text artist = table.track(row).pevac.text();
+  table.removeRow(row);
+  if (listed) parts_.form1.List4.RemoveItem(row - 1);
+  if (table.currentRow == row)
+    table.currentRow = 0;
+  else if (table.currentRow > row)
+    --table.currentRow;
+  parts_.artists.IzbaciAutora(artist);
+}
+
+void RowKeeper::restoreRow(int row, const RowSnapshot& snapshot, const Text& path) {
+  core::TrackTable& table = parts_.table;
+  if (!parts_.files.fileExists(path)) return;
+  // After a crash the table may be older than the journal, and then it never lost the row.
+  if (table.path(row) == path) return;
+  const bool working = row <= snapshot.brojfajlova;
+  row = std::min(row, (working ? table.workingRows() : table.rows()) + 1);
+  table.insertRow(row);
+  if (working) table.setBrojfajlova(table.workingRows() + 1);
+  fillFromSnapshot(table.track(row), snapshot);
+  table.track(row).nizdes = path;
+  table.track(row).crtapos = snapshot.crtapos;
+  names::PevacIPesma(table, row);
+  if (table.currentRow >= row) ++table.currentRow;
+  if (table.vrsta == duplicatesView && onDuplicateRestored) onDuplicateRestored(row);
+  if (working) {
+    ui::ListBox& list = parts_.form1.List4;
+    if (listShowsMusic() && row - 1 <= list.ListCount()) list.insertItem(row - 1, path);
+    try {
+      table.velicinasfiles += static_cast<double>(parts_.files.size(path));
+    } catch (const platform::FileError&) {
+      // A file that cannot be measured counts nothing.
+    }
+  }
+  parts_.artists.DodajAutora(table.track(row).pevac.text());
+}
+
+}  // namespace velmora::review

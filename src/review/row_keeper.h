@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+
+#include "core/track_table.h"
+#include "platform/files.h"
+#include "review/artist_book.h"
+#include "review/undo_journal.h"
+#include "review/undo_record.h"
+#include "ui/form1.h"
+
+namespace velmora::review {
+
+/// Takes single rows out of the table and puts them back, with the file list and the artists in step.
+class RowKeeper {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    UndoJournal& journal;
+    ArtistBook& artists;
+    ui::Form1& form1;
+  };
+  explicit RowKeeper(const Parts& parts) : parts_(parts) {}
+
+  /// Raised in the duplicates view after a row came back: the rows from there on are one further down.
+  std::function<void(int row)> onDuplicateRestored;
+
+  /// Journals "izb" with the snapshot of the row and takes it out. Throws FileError when it could not be
+  /// journalled; the row then stays.
+  void removeRow(int row);
+  /// Puts a row back where it was, with its file at `path` now. Does nothing when the file is not there, or
+  /// when the table still has the row.
+  void restoreRow(int row, const RowSnapshot& snapshot, const Text& path);
+
+ private:
+  bool listShowsMusic() const { return !parts_.form1.ostali.chosen(); }
+
+  Parts parts_;
+};
+
+/// Gives a row the flags, tag columns and path of a snapshot.
+void fillFromSnapshot(core::Track& track, const RowSnapshot& snapshot);
+
+}  // namespace velmora::review
