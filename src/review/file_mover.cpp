@@ -22,11 +22,20 @@ Text withBlank(TextView path) {
 
 }  // namespace
 
-MoveResult FileMover::move(const Text& path, Text target, Text* movedTo) {
+MoveResult FileMover::move(const Text& path, const Text& target, Text* movedTo) {
+  return moveBy([&](const Text& to) { files_.move(path, to); }, path, target, movedTo);
+}
+
+MoveResult FileMover::bringBack(platform::Trash& trash, const Text& trashPath, const Text& target,
+                                Text* movedTo) {
+  return moveBy([&](const Text& to) { trash.bringBack(trashPath, to); }, trashPath, target, movedTo);
+}
+
+MoveResult FileMover::moveBy(const Move& moveOnce, const Text& path, const Text& target, Text* movedTo) {
   player::FileHandOver handOver(player_, path);
   while (true) {
     try {
-      Text reached = moveToFreeName(path, target);
+      Text reached = moveToFreeName(moveOnce, path, target);
       handOver.renamed(reached);
       if (movedTo) *movedTo = std::move(reached);
       return MoveResult::Moved;
@@ -47,10 +56,10 @@ MoveResult FileMover::move(const Text& path, Text target, Text* movedTo) {
 }
 
 /// Returns the path that the file got. A file that lies at its target already is left alone.
-Text FileMover::moveToFreeName(const Text& path, Text target) {
+Text FileMover::moveToFreeName(const Move& moveOnce, const Text& path, Text target) {
   while (target != path) {
     try {
-      files_.move(path, target);
+      moveOnce(target);
       break;
     } catch (const platform::FileError& error) {
       if (error.number != platform::FileError::fileExists) throw;

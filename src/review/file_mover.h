@@ -1,7 +1,10 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/trash.h"
 #include "player/hand_over.h"
 
 namespace velmora::review {
@@ -21,10 +24,15 @@ class FileMover {
   /// Moves a file to the full path `target`, and puts blanks before the last four characters of the new name
   /// for as long as another file has it. The preview player lets go of the file meanwhile and then goes on.
   /// `movedTo`, when given, receives the path that the file got.
-  MoveResult move(const Text& path, Text target, Text* movedTo = nullptr);
+  MoveResult move(const Text& path, const Text& target, Text* movedTo = nullptr);
+  /// The same for a file that lies in the trash under `trashPath`.
+  MoveResult bringBack(platform::Trash& trash, const Text& trashPath, const Text& target,
+                       Text* movedTo = nullptr);
 
  private:
-  Text moveToFreeName(const Text& path, Text target);
+  using Move = std::function<void(const Text& to)>;
+  MoveResult moveBy(const Move& moveOnce, const Text& path, const Text& target, Text* movedTo);
+  static Text moveToFreeName(const Move& moveOnce, const Text& path, Text target);
 
   platform::Files& files_;
   platform::Dialogs& dialogs_;
