@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <unordered_map>
+
 #include "platform/files.h"
 #include "platform/trash.h"
 
@@ -7,7 +10,7 @@ namespace velmora::system {
 
 /// The desktop's trash by its published folder layout (freedesktop.org Trash specification 1.0): the home
 /// trash for files on the home volume, a per-volume trash for others; the info file is written first and
-/// exclusively.
+/// exclusively. Where a volume lets us make no trash, its files are moved to the home trash.
 class DesktopTrash final : public platform::Trash {
  public:
   /// `homeTrash` is the full path of the home trash folder; see defaultHomeTrash.
@@ -19,8 +22,20 @@ class DesktopTrash final : public platform::Trash {
   void bringBack(const Text& trashPath, const Text& target) override;
 
  private:
+  /// A trash folder, and the folder that the paths in its info files start from; empty for full paths.
+  struct Place {
+    Text folder;
+    Text origin;
+  };
+  Place placeFor(const Text& path);
+  static std::optional<Place> volumePlace(const Text& volume);
+  void dropInfo(const Text& infoFile);
+
   platform::Files& files_;
   Text homeTrash_;
+  /// The number that a file tries when its plain name is taken, per trash and name: a trash full of files of
+  /// one name is not searched from its beginning for each.
+  std::unordered_map<Text, int> nextNumber_;
 };
 
 }  // namespace velmora::system

@@ -23,48 +23,6 @@ bool sameEntry(const struct stat& left, const struct stat& right) {
   return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
-/// For disks that have no links either: takes the name with an empty entry of our own, which the rename then
-/// replaces. An entry that another program has put something into is never replaced.
-int renameOverPlaceholder(const Bytes& from, const Bytes& to, bool folder) {
-  if (folder) {
-    if (::mkdir(to.c_str(), 0700) != 0) return errno;
-  } else {
-    const Descriptor placeholder(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-    if (!placeholder.valid()) return errno;
-  }
-  if (::rename(from.c_str(), to.c_str()) == 0) return 0;
-  const int code = errno;
-  struct stat status;
-  if (folder) {
-    ::rmdir(to.c_str());
-  } else if (::lstat(to.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0) {
-    ::unlink(to.c_str());
-  }
-  return code;
-}
-
-/// For disks that cannot rename with a check: a second link fails where the name is taken.
-int renameByLink(const Bytes& from, const Bytes& to) {
-  struct stat status;
-  if (::lstat(from.c_str(), &status) != 0) return errno;
-  if (S_ISDIR(status.st_mode)) return renameOverPlaceholder(from, to, true);
-  if (::link(from.c_str(), to.c_str()) == 0) {
-    if (::unlink(from.c_str()) == 0) return 0;
-    const int code = errno;
-    ::unlink(to.c_str());
-    return code;
-  }
-  switch (errno) {
-    case EPERM:
-    case EOPNOTSUPP:
-    case ENOSYS:
-    case EMLINK:
-      return renameOverPlaceholder(from, to, false);
-    default:
-      return errno;
-  }
-}
-
 /// Whether the folder of `path` lists exactly its name. Asking for the path itself would not tell, since the
 /// disk may take another spelling for it.
 bool listsSpelling(const Bytes& path) {
@@ -133,6 +91,48 @@ Bytes resolved(const Bytes& path) {
 }
 
 }  // namespace
+
+int renameOverPlaceholder(const Bytes& from, const Bytes& to) {
+  struct stat source;
+  if (::lstat(from.c_str(), &source) != 0) return errno;
+  const bool folder = S_ISDIR(source.st_mode);
+  if (folder) {
+    if (::mkdir(to.c_str(), 0700) != 0) return errno;
+  } else {
+    const Descriptor placeholder(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!placeholder.valid()) return errno;
+  }
+  if (::rename(from.c_str(), to.c_str()) == 0) return 0;
+  const int code = errno;
+  struct stat status;
+  if (folder) {
+    ::rmdir(to.c_str());
+  } else if (::lstat(to.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0) {
+    ::unlink(to.c_str());
+  }
+  return code;
+}
+
+int renameByLink(const Bytes& from, const Bytes& to) {
+  struct stat status;
+  if (::lstat(from.c_str(), &status) != 0) return errno;
+  if (S_ISDIR(status.st_mode)) return renameOverPlaceholder(from, to);
+  if (::link(from.c_str(), to.c_str()) == 0) {
+    if (::unlink(from.c_str()) == 0) return 0;
+    const int code = errno;
+    ::unlink(to.c_str());
+    return code;
+  }
+  switch (errno) {
+    case EPERM:
+    case EOPNOTSUPP:
+    case ENOSYS:
+    case EMLINK:
+      return renameOverPlaceholder(from, to);
+    default:
+      return errno;
+  }
+}
 
 int renameNoReplace(const Bytes& from, const Bytes& to) {
   if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;

@@ -15,5 +15,10 @@ void replaceFile(const Bytes& from, const Bytes& to);
 
 /// Renames unless the target name is taken; returns 0 or the error code.
 int renameNoReplace(const Bytes& from, const Bytes& to);
+/// The same on disks that cannot rename with a check: by a second link, which fails where the name is taken.
+int renameByLink(const Bytes& from, const Bytes& to);
+/// The same on disks that have no links either: an empty entry of our own takes the name, and the rename then
+/// replaces that.
+int renameOverPlaceholder(const Bytes& from, const Bytes& to);
 
 }  // namespace velmora::system

@@ -30,8 +30,10 @@ void giveRightsBack(const fs::path& folder) {
 
 }  // namespace
 
-TempFolder::TempFolder() {
-  std::string pattern = (fs::temp_directory_path() / "velmora-test-XXXXXX").string();
+TempFolder::TempFolder() : TempFolder(fs::temp_directory_path().native()) {}
+
+TempFolder::TempFolder(BytesView parent) {
+  std::string pattern = (fs::path(parent) / "velmora-test-XXXXXX").string();
   if (!::mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder can be made");
   path_ = core::fromBytes(pattern);
 }
@@ -69,6 +71,10 @@ Text TempFolder::mkdir(TextView name) const {
   Text full = path(name);
   fs::create_directories(nativeOf(full));
   return full;
+}
+
+void TempFolder::removeAll(TextView name) const {
+  fs::remove_all(nativeOf(path(name)));
 }
 
 bool TempFolder::exists(TextView name) const {

@@ -9,6 +9,8 @@ namespace velmora::test {
 class TempFolder {
  public:
   TempFolder();
+  /// A folder under another one than the system's.
+  explicit TempFolder(BytesView parent);
   ~TempFolder();
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
@@ -26,7 +28,10 @@ class TempFolder {
   Bytes read(TextView name) const;
   /// Makes a folder, and the folders above it, and returns its full path.
   Text mkdir(TextView name) const;
+  /// Whether there is anything of that name, a dangling link included.
   bool exists(TextView name) const;
+  /// Removes a file, or a folder with all it holds.
+  void removeAll(TextView name) const;
 
  private:
   Text path_;
