@@ -18,7 +18,9 @@ bool isMpegAudio(const Text& path) {
 }
 
 Text twoDigits(std::int64_t number) {
-  return (number < 10 ? u"0" : u"") + core::plain(number);
+  Text digits = core::plain(number);
+  if (digits.size() < 2) digits.insert(digits.begin(), u'0');
+  return digits;
 }
 
 /// Shows the values in the boxes, save those that keep what was typed.
