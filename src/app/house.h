@@ -47,7 +47,6 @@ struct House {
   bool ending = false;        ///< the end was asked for; no wait goes on
   bool shuttingDown = false;  ///< the end is under way
   bool ended = false;
-  bool showingRow = false;  ///< a click on the file list fills the boxes
 
   // The model and its files.
   ui::Windows windows;

@@ -23,24 +23,17 @@ void closeRequested(House& house) {
 void wireLists(House& house) {
   ui::Form1& form1 = house.windows.form1;
   form1.List4.onClick = [&house] {
-    house.showingRow = true;
     house.listViews.List4Click();
-    house.showingRow = false;
     enableCommands(house);
   };
   form1.List1.onClick = [&house] { house.listViews.List1Click(); };
   form1.List3.onClick = [&house] { house.completion.List3Click(); };
-  const auto offerArtists = [&house] {
-    // Only what the user types is completed, not what a click or a batch puts in the box.
-    if (house.windows.form1.enabled() && !house.showingRow) house.completion.boxChanged();
-  };
-  form1.Text1.onChange = offerArtists;
+  form1.Text1.onChange = [&house] { house.completion.boxChanged(); };
   form1.Text1.onKey = [&house](ui::KeyPress press) { return house.completion.nameBoxKey(press); };
-  form1.Text8.onChange = offerArtists;
+  form1.Text8.onChange = [&house] { house.completion.boxChanged(); };
   form1.tags.viewID3v1.onClick = [&house] { house.panel.showTags(); };
   form1.tags.viewID3v2.onClick = [&house] { house.panel.showTags(); };
   form1.folderTree.onClick = [&house] {
-    if (!house.windows.form1.enabled()) return;
     house.listViews.folderTreeClick();
     enableCommands(house);
   };

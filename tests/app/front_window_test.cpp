@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include "core/number_text.h"
+#include "tests/support/headless_velmora.h"
+
+namespace velmora::app {
+namespace {
+
+using platform::Answer;
+
+const Text folderQuestion =
+    u"Music Base folder was not selected. You can select now or latter by click on most left folder icon."
+    u"\r\n\r\nSelect now?";
+const Text reviewQuestion = u"Process in progres and will be stopped. You want to continue ?";
+
+struct FrontWindowTest : testing::Test {
+  test::HeadlessVelmora program;
+
+  void startWithSongs() {
+    program.song(u"in/ABBA - Waterloo.mp3");
+    program.startInProcessingWindow();
+    program.addFolder(program.folder.path(u"music/in"));
+  }
+};
+
+TEST_F(FrontWindowTest, ProcessingWindowAndBackAgain) {
+  program.settings.set(u"sourceprozor", u" 1");
+  program.start();
+  program.form3().showProcessingWindow.click();
+  EXPECT_TRUE(program.form1().visible());
+  EXPECT_TRUE(program.form1().enabled());
+  EXPECT_FALSE(program.form3().visible());
+  EXPECT_EQ(program.table().aktivniprozor, 1);
+  EXPECT_EQ(program.settings.get(u"sourceprozor"), u" 1");
+  program.form3().onActivate();
+  EXPECT_EQ(program.table().aktivniprozor, 1) << "a late notice of a window that was left";
+
+  program.form1().closeRequest();
+  EXPECT_FALSE(program.form1().visible());
+  EXPECT_TRUE(program.form3().visible());
+  EXPECT_EQ(program.table().aktivniprozor, 3);
+  EXPECT_FALSE(program.app().ended()) << "closing the Processing Window only hides it";
+}
+
+TEST_F(FrontWindowTest, AssortNeedsRowsAndOffersToChooseTheBase) {
+  startWithSongs();
+  int newMusic = 0;
+  program.app().events().onShowNewMusic = [&] { ++newMusic; };
+  program.settings.set(u"sourceprozor", u" 1");
+  program.dialogs.expect(folderQuestion, u"New Music Files Window", Answer::Yes);
+  program.dialogs.expectFolder(u"Select main folder for Your Music Base", program.musicFolder());
+  program.form1().assort.click();
+  EXPECT_EQ(program.dialogs.lastIcon, platform::Icon::Question);
+  EXPECT_EQ(newMusic, 1);
+  EXPECT_EQ(program.table().sourceprozor, 0);
+  EXPECT_EQ(program.settings.get(u"DirZaBazu"), program.musicFolder());
+  EXPECT_EQ(program.table().dirzabazu, program.musicFolder());
+  EXPECT_EQ(program.form3().rootLabel.text(), program.musicFolder());
+
+  program.form3().showProcessingWindow.click();
+  program.form1().assort.click();
+  EXPECT_TRUE(program.form3().visible()) << "with a base there is nothing to ask";
+}
+
+TEST_F(FrontWindowTest, NoBaseIsAskedForWithoutRows) {
+  program.startInProcessingWindow();
+  EXPECT_FALSE(program.form1().assort.enabled());
+  program.form1().closeRequest();
+  EXPECT_TRUE(program.form3().visible());
+}
+
+TEST_F(FrontWindowTest, ClosingDuringAReviewAsksFirst) {
+  program.startInProcessingWindow();
+  int exits = 0;
+  program.app().events().onExitReview = [&] { ++exits; };
+  program.table().vrsta = 2;
+  program.dialogs.expect(reviewQuestion, u"Processing Window", Answer::No);
+  program.form1().closeRequest();
+  EXPECT_TRUE(program.form1().visible());
+  EXPECT_EQ(exits, 0);
+  EXPECT_EQ(program.table().vrsta, 2);
+
+  program.dialogs.expect(reviewQuestion, u"Processing Window", Answer::Yes);
+  program.form1().closeRequest();
+  EXPECT_FALSE(program.form1().visible());
+  EXPECT_EQ(exits, 1);
+  EXPECT_EQ(program.table().vrsta, 0);
+}
+
+TEST_F(FrontWindowTest, ReviewStaysStoredWhenTheProgramEndsInTheMiddleOfIt) {
+  program.startInProcessingWindow();
+  program.table().vrsta = 2;
+  program.app().requestEnd();
+  EXPECT_EQ(program.settings.get(u"vrsta"), u" 2");
+  EXPECT_EQ(program.settings.get(u"aktivniprozor"), u" 1");
+}
+
+TEST_F(FrontWindowTest, CloseDuringACommandHappensBehindIt) {
+  for (int i = 0; i < 9; ++i) program.song(u"in/Artist - Song" + core::number(std::int64_t{i}) + u".mp3");
+  program.settings.set(u"DirZaBazu", program.folder.mkdir(u"base"));
+  program.startInProcessingWindow();
+  program.desktop.then([&] { program.form1().closeRequest(); });
+  program.desktop.then([&] {
+    EXPECT_TRUE(program.form1().visible());
+    EXPECT_TRUE(program.table().Stop);
+  });
+  program.addFolder(program.folder.path(u"music/in"));
+  EXPECT_FALSE(program.form1().visible());
+  EXPECT_TRUE(program.form3().visible());
+  EXPECT_FALSE(program.windows().dialog1.visible());
+}
+
+TEST_F(FrontWindowTest, PlaceOfTheProcessingWindowIsKept) {
+  program.startInProcessingWindow();
+  program.form1().setPlacement({600, 700, 12000, 9000});
+  program.form1().onDeactivate();
+  EXPECT_EQ(program.settings.get(u"f1x"), u" 600");
+  EXPECT_EQ(program.settings.get(u"f1y"), u" 700");
+  program.form1().setState(ui::WindowState::Minimised);
+  program.form1().setPlacement({-32000, -32000, 100, 100});
+  program.form1().onDeactivate();
+  EXPECT_EQ(program.settings.get(u"f1x"), u" 600");
+  program.restart();
+  EXPECT_EQ(program.form1().placement().left, 600);
+}
+
+}  // namespace
+}  // namespace velmora::app
