@@ -7,11 +7,15 @@ namespace velmora::app {
 
 namespace {
 
-/// The boxes of the panel go into the tags of the current row, as one step that can be undone.
+/// The boxes of the panel go into the tags of the current row, as one step that can be undone. The progress
+/// window keeps clicks on other rows away, which would change the boxes, and gives a busy file its Stop.
 void update(House& house) {
-  house.journal.appendUndoMarker("st1");
-  house.tagWriter.UpdateTags();
-  house.data.SaveID3nizove(house.table);
+  house.closing.run([&house] {
+    house.progress.show(u"Update ID3 Tags ...");
+    house.journal.appendUndoMarker("st1");
+    house.tagWriter.UpdateTags();
+    house.data.SaveID3nizove(house.table);
+  });
 }
 
 void closeRequested(House& house) {
