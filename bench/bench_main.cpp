@@ -1,0 +1,134 @@
+// velmora_bench [--sizes N,N,...] [--rounds N] [--jobs name,name,...] [--folder F] [--check]
+// Times each main job on made collections and compares it with its yardstick within one run. The jobs take
+// turns, each in a process of its own, and the medians over all rounds are told: single times on a busy
+// machine mean little. With --check the exit code is 1 when a target was missed. See docs/benchmarks.md.
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <unistd.h>
+#include <vector>
+
+#include "bench/child.h"
+#include "bench/corpus.h"
+#include "bench/report.h"
+
+namespace velmora::bench {
+namespace {
+
+constexpr std::uint64_t seed = 20;
+constexpr int baseFilesPerNewFile = 4;
+
+struct Options {
+  std::vector<int> sizes = {10000, 20000, 40000};
+  int rounds = 5;
+  std::vector<std::string> jobs;  ///< empty for all
+  std::string folder;             ///< empty for a temporary one
+  bool check = false;
+};
+
+std::vector<std::string> split(const std::string& list) {
+  std::vector<std::string> parts;
+  std::stringstream stream(list);
+  for (std::string part; std::getline(stream, part, ',');) parts.push_back(part);
+  return parts;
+}
+
+Options parse(int count, char** arguments) {
+  Options options;
+  for (int i = 1; i < count; ++i) {
+    const std::string_view argument = arguments[i];
+    if (argument == "--check") {
+      options.check = true;
+      continue;
+    }
+    if (i + 1 == count) throw std::invalid_argument("no such option: " + std::string(argument));
+    const std::string given = arguments[++i];
+    if (argument == "--sizes") {
+      options.sizes.clear();
+      for (const std::string& size : split(given)) options.sizes.push_back(std::stoi(size));
+    } else if (argument == "--rounds") {
+      options.rounds = std::stoi(given);
+    } else if (argument == "--jobs") {
+      options.jobs = split(given);
+    } else if (argument == "--folder") {
+      options.folder = given;
+    } else {
+      throw std::invalid_argument("no such option: " + std::string(argument));
+    }
+  }
+  return options;
+}
+
+bool wanted(const Options& options, const Job& job) {
+  return options.jobs.empty() ||
+         std::find(options.jobs.begin(), options.jobs.end(), job.name) != options.jobs.end();
+}
+
+/// The collections of one size, made once and kept for later runs in the same folder.
+Scene prepare(const std::string& folder, int files) {
+  const std::string own = folder + "/" + std::to_string(files);
+  const Scene scene{own + "/New music", own + "/Music Base", own + "/state"};
+  if (!std::filesystem::exists(own + "/made")) {
+    std::fprintf(stderr, "making a collection of %d files and a base of %d ...\n", files,
+                 files * baseFilesPerNewFile);
+    std::filesystem::remove_all(own);
+    makeNewMusic(scene.newMusic, files, seed);
+    makeBase(scene.base, files * baseFilesPerNewFile, seed);
+    std::filesystem::create_directory(own + "/made");
+  }
+  return scene;
+}
+
+void runRound(const Options& options, const Scene& scene, Series* into) {
+  Scene copied = scene;
+  copied.newMusic += " (copy)";
+  for (const Job& job : jobs()) {
+    if (!wanted(options, job)) continue;
+    if (job.music == Music::Fresh) {
+      std::filesystem::remove_all(copied.newMusic);
+      std::filesystem::copy(scene.newMusic, copied.newMusic, std::filesystem::copy_options::recursive);
+    }
+    const Outcome outcome = runInChild(job, job.music == Music::Shared ? scene : copied);
+    if (into != nullptr) into->outcomes[job.name].push_back(outcome);
+  }
+  std::filesystem::remove_all(copied.newMusic);
+}
+
+int run(const Options& options) {
+  const std::string folder =
+      options.folder.empty()
+          ? (std::filesystem::temp_directory_path() / ("velmora_bench." + std::to_string(getpid()))).string()
+          : std::filesystem::absolute(options.folder).string();
+  std::vector<Series> sizes;
+  for (const int files : options.sizes) {
+    const Scene scene = prepare(folder, files);
+    Series series{files, {}};
+    // The first round only warms the cache of the system.
+    runRound(options, scene, nullptr);
+    for (int i = 0; i < options.rounds; ++i) runRound(options, scene, &series);
+    sizes.push_back(std::move(series));
+  }
+  if (options.folder.empty()) std::filesystem::remove_all(folder);
+  const int missed = report(sizes);
+  return options.check && missed > 0 ? 1 : 0;
+}
+
+}  // namespace
+}  // namespace velmora::bench
+
+int main(int count, char** arguments) {
+  using namespace velmora::bench;
+  if (count > 2 && std::string_view(arguments[1]) == "--child") return childMain(count - 2, arguments + 2);
+  try {
+    return run(parse(count, arguments));
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "velmora_bench: %s\n", failure.what());
+    return 2;
+  }
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace velmora::bench {
+
+struct CorpusCounts {
+  int songs = 0;
+  int others = 0;  ///< files that are not music
+};
+
+/// Makes collections that are like real ones, and the same for the same seed: 80 % of the songs with an ID3v2
+/// tag by other writers, 70 % with an ID3v1 tag, some KiB of sound each, other files among them. `folder` is
+/// made when it is missing and should be empty. Throws std::system_error.
+
+/// Music as it comes: albums in folders of their own, the rest in folders of some hundred downloads.
+CorpusCounts makeNewMusic(const std::string& folder, int songs, std::uint64_t seed);
+/// A base: Genre/Artist/Album-Year/file, well named. Shares artists with the new music of the same seed.
+CorpusCounts makeBase(const std::string& folder, int songs, std::uint64_t seed);
+
+}  // namespace velmora::bench

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/velmora.h"
+#include "core/settings.h"
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "system/desktop_trash.h"
+#include "system/posix_files.h"
+
+namespace velmora::bench {
+
+/// A desktop with nobody in front of it. Pumping events costs what it costs in the real program: a look at
+/// the clock, and something to do once per frame.
+class QuietDesktop final : public platform::Desktop {
+ public:
+  void pumpEvents() override;
+  /// There is nobody whom it would pay to wait for: throws.
+  void waitForEvents() override;
+  void sleep(int milliseconds) override;
+  std::int64_t clockMilliseconds() override;
+  double random() override { return 0.5; }
+  bool anotherInstanceRunning() override { return false; }
+  int systemVersion() override { return 1000; }
+  void openWithDefaultProgram(const Text&) override {}
+
+ private:
+  std::int64_t lastFrame_ = 0;
+};
+
+/// Dialogs that consent. What goes wrong is told on standard error.
+class ConsentingDialogs final : public platform::Dialogs {
+ public:
+  platform::Answer message(const Text& text, const Text& title, platform::Buttons buttons,
+                           platform::Icon icon) override;
+  std::optional<Text> input(const Text& prompt, const Text& title, const Text& initial) override;
+  std::optional<Text> pickFolder(const Text& title, const Text& start) override;
+};
+
+/// The real program without a toolkit, on a program folder of its own.
+class HeadlessProgram {
+ public:
+  explicit HeadlessProgram(const std::string& stateFolder);
+  ~HeadlessProgram();
+
+  /// Settings.ini, for what a job wants set before the start.
+  core::Settings& settings() { return settings_; }
+  /// Comes up with the Processing Window in front and no tips.
+  void start();
+  void end() { program_->requestEnd(); }
+  ui::Form1& form1() { return program_->windows().form1; }
+  core::TrackTable& table() { return program_->table(); }
+
+ private:
+  system::PosixFiles files_;
+  system::DesktopTrash trash_;
+  QuietDesktop desktop_;
+  ConsentingDialogs dialogs_;
+  core::Settings settings_;
+  std::unique_ptr<app::Velmora> program_;
+};
+
+}  // namespace velmora::bench

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+namespace velmora::bench {
+
+/// What a job works on. All folders are full paths.
+struct Scene {
+  std::string newMusic;  ///< a collection to add
+  std::string base;      ///< a Music Base of four times as many files
+  std::string state;     ///< program folder, kept from job to job within one round
+};
+
+struct Measured {
+  double seconds = 0;
+  int files = 0;      ///< listed: rows of the working list
+  int tableRows = 0;  ///< rows of the table, with the copy of the base behind the list
+};
+
+/// The collection that a job works on.
+enum class Music {
+  Shared,  ///< the one of all jobs, which it must leave as it is
+  Fresh,   ///< a copy made for it, which it may change
+  Left     ///< the copy as the last job with a fresh one left it
+};
+
+/// One thing that is timed, in a process of its own.
+struct Job {
+  const char* name;
+  const char* what;  ///< one line for the report
+  Measured (*run)(const Scene&);
+  /// Job whose time in the same round is the yardstick, or null: then only the time is told.
+  const char* against;
+  double mostRatio;  ///< the target for time / yardstick; 0 for none
+  double mostSlope;  ///< the target for the time of twice as many files / the time; 0 for none
+  Music music;
+};
+
+/// All jobs in the order of a round: a job may stand on the state that an earlier one left.
+std::span<const Job> jobs();
+const Job* findJob(const std::string& name);
+
+}  // namespace velmora::bench

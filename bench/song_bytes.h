@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "bench/random.h"
+#include "bench/song_names.h"
+
+namespace velmora::bench {
+
+/// A whole MP3 file of some KiB: frames of 128 kbit/s, and the tags that other programs would have written.
+std::string songBytes(const Song& song, Random& random);
+
+}  // namespace velmora::bench
