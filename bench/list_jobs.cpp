@@ -24,7 +24,7 @@ Measured addTo(const Scene& scene, bool withBase) {
   program.settings().set(u"DirZaBazu", withBase ? core::fromBytes(scene.base) : Text());
   program.settings().set(u"ex7", withBase ? u" 1" : u" 0");
   program.start();
-  program.form1().folderTree.setPath(core::fromBytes(scene.newMusic));
+  program.form1().folderTree.click(core::fromBytes(scene.newMusic));
   const StopWatch watch;
   program.form1().add.click();
   const Measured measured = measure(watch, program);

@@ -152,8 +152,21 @@ void DataFolder::savenizove(const TrackTable& table) {
   writeList(autoriFile, table.autori);
 }
 
+/// Row by row and not column by column, so that each row is fetched from memory once for all files.
 void DataFolder::SaveID3nizove(const TrackTable& table) {
-  for (const Column column : tagColumns()) writeColumn(fileOf(column), table, column);
+  const auto columns = tagColumns();
+  std::vector<Bytes> contents(columns.size());
+  std::vector<int> bounds;
+  for (const Column column : columns) bounds.push_back(table.upperBound(column));
+  const int last = std::ranges::max(bounds);
+  for (int row = 1; row <= last; ++row) {
+    const Track& track = table.track(row);
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      if (row > bounds[i]) continue;
+      records::write(contents[i], table.hasRow(row) ? track.*columns[i] : table.element(columns[i], row));
+    }
+  }
+  for (std::size_t i = 0; i < columns.size(); ++i) store(fileOf(columns[i]), contents[i]);
 }
 
 void DataFolder::readNames(TrackTable& table) const {
