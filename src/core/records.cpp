@@ -14,13 +14,14 @@ constexpr BytesView lineEnd = "\r\n";
 constexpr BytesView trueMark = "#TRUE#";
 constexpr BytesView falseMark = "#FALSE#";
 
-/// The part of a text that a record brings back whole. A quote ends the text on reading, and the rest of its
-/// line is passed over; a line break behind the quote would make a record of its own out of the rest, and
-/// so shift all rows below.
-TextView carried(TextView text) {
-  const std::size_t quote = text.find(u'"');
-  if (quote == TextView::npos) return text;
-  return text.substr(0, text.find_first_of(u"\r\n", quote));
+/// Cuts what was added behind `from` where a line break follows a quote. The quote ends the text on reading,
+/// and the rest of its line is passed over; but behind a line break the rest would be a record of its own,
+/// which would shift all rows below.
+void cutUncarried(Bytes& out, std::size_t from) {
+  const std::size_t quote = out.find('"', from);
+  if (quote == Bytes::npos) return;
+  const std::size_t lineBreak = out.find_first_of(lineEnd, quote);
+  if (lineBreak != Bytes::npos) out.resize(lineBreak);
 }
 
 }  // namespace
@@ -36,7 +37,9 @@ void write(Bytes& out, const Element& element) {
 
 void writeText(Bytes& out, TextView text) {
   out += '"';
-  utf8::append(out, carried(text));
+  const std::size_t from = out.size();
+  utf8::append(out, text);
+  cutUncarried(out, from);
   out += '"';
   out += lineEnd;
 }

@@ -94,7 +94,16 @@ void append(Text& out, BytesView bytes) {
   out.resize(before + bytes.size());  // no character has more units than bytes
   const auto* from = reinterpret_cast<const unsigned char*>(bytes.data());
   char16_t* to = out.data() + before;
-  for (std::size_t at = 0; at < bytes.size();) {
+  std::size_t at = 0;
+  for (constexpr std::size_t block = 8; at + block <= bytes.size(); at += block, to += block) {
+    unsigned all = 0;
+    for (std::size_t i = 0; i < block; ++i) {
+      all |= from[at + i];
+      to[i] = from[at + i];
+    }
+    if (all >= 0x80) break;
+  }
+  while (at < bytes.size()) {
     if (from[at] < 0x80) {
       *to++ = from[at++];
     } else {
@@ -105,17 +114,30 @@ void append(Text& out, BytesView bytes) {
 }
 
 void append(Bytes& out, TextView text) {
-  for (std::size_t at = 0; at < text.size();) {
-    // Runs of ASCII, the common case, are written in place.
-    std::size_t end = at;
-    while (end < text.size() && text[end] < 0x80) ++end;
-    if (end > at) {
-      const std::size_t before = out.size();
-      out.resize(before + (end - at));
-      for (std::size_t i = at; i < end; ++i) out[before + (i - at)] = static_cast<char>(text[i]);
-      at = end;
+  // ASCII, the common case, is written in one go, blocks of it without a branch per character.
+  const std::size_t before = out.size();
+  out.resize(before + text.size());
+  char* to = out.data() + before;
+  std::size_t at = 0;
+  constexpr std::size_t block = 8;
+  for (; at + block <= text.size(); at += block) {
+    unsigned all = 0;
+    for (std::size_t i = 0; i < block; ++i) {
+      all |= text[at + i];
+      to[at + i] = static_cast<char>(text[at + i]);
     }
-    if (at < text.size()) at += encodeOne(out, text, at);
+    if (all >= 0x80) break;
+  }
+  for (; at < text.size() && text[at] < 0x80; ++at) to[at] = static_cast<char>(text[at]);
+  if (at == text.size()) return;
+
+  out.resize(before + at);
+  while (at < text.size()) {
+    if (text[at] < 0x80) {
+      out += static_cast<char>(text[at++]);
+    } else {
+      at += encodeOne(out, text, at);
+    }
   }
 }
 
