@@ -47,6 +47,8 @@ class OpenFile {
   virtual void writeAt(std::uint64_t offset, BytesView bytes) = 0;
   /// Brings what was written to the disk.
   virtual void flush() = 0;
+  /// Keeps other programs off the file until it is closed. False when one of them holds it. Never throws.
+  virtual bool lockAlone() { return true; }
 };
 
 enum class OpenMode { Read, ReadWrite };
@@ -84,8 +86,8 @@ class Files {
   virtual void move(const Text& from, const Text& to) = 0;
   /// The same for a folder with all it holds, within a volume or across.
   virtual void moveFolder(const Text& from, const Text& to) = 0;
-  /// Puts the finished file `from` in the place of `to` in one step, with the mode and owner of `to`; both
-  /// lie in one folder. A link `to` is followed: its target is what gets replaced.
+  /// Brings the finished file `from` to the disk and puts it in the place of `to` in one step, with the mode
+  /// and owner of `to`; both lie in one folder. A link `to` is followed: its target is what gets replaced.
   virtual void replace(const Text& from, const Text& to) = 0;
   /// Deletes a file of the program's own. Songs go to the Trash instead.
   virtual void remove(const Text& path) = 0;

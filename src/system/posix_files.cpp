@@ -7,7 +7,6 @@
 #include <limits.h>
 #include <memory>
 #include <stdlib.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <utility>
@@ -275,12 +274,7 @@ bool PosixFiles::busy(const Text& path) {
     return false;
   const Descriptor file(untilDone([&] { return ::open(native.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC); }));
   if (!file.valid()) return errno == ETXTBSY || errno == EAGAIN;
-  if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return true;
-  struct flock whole = {};
-  whole.l_type = F_WRLCK;
-  whole.l_whence = SEEK_SET;
-  if (::fcntl(file.get(), F_OFD_SETLK, &whole) != 0 && (errno == EAGAIN || errno == EACCES)) return true;
-  return false;  // both locks end with the descriptor
+  return !lockWhole(file.get());  // the lock ends with the descriptor
 }
 
 Text PosixFiles::volumeOf(const Text& path) {

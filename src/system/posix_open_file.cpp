@@ -1,5 +1,7 @@
 #include "system/posix_open_file.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <utility>
 
@@ -36,6 +38,14 @@ void PosixOpenFile::writeAt(std::uint64_t offset, BytesView bytes) {
 
 void PosixOpenFile::flush() {
   if (untilDone([&] { return ::fsync(descriptor_.get()); }) != 0) throwErrno(path_);
+}
+
+bool lockWhole(int descriptor) {
+  if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
+  struct flock whole = {};
+  whole.l_type = F_WRLCK;
+  whole.l_whence = SEEK_SET;
+  return ::fcntl(descriptor, F_OFD_SETLK, &whole) == 0 || (errno != EAGAIN && errno != EACCES);
 }
 
 int writeFully(int descriptor, BytesView bytes, std::uint64_t offset) {

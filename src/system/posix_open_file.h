@@ -5,6 +5,10 @@
 
 namespace velmora::system {
 
+/// Takes an exclusive lock on a file, of both kinds that programs use, until the descriptor is closed. False
+/// when another program holds one.
+bool lockWhole(int descriptor);
+
 /// An OpenFile over a descriptor. `path` only serves to tell errors apart.
 class PosixOpenFile final : public platform::OpenFile {
  public:
@@ -14,6 +18,7 @@ class PosixOpenFile final : public platform::OpenFile {
   std::size_t readAt(std::uint64_t offset, std::span<char> into) override;
   void writeAt(std::uint64_t offset, BytesView bytes) override;
   void flush() override;
+  bool lockAlone() override { return lockWhole(descriptor_.get()); }
 
  private:
   Descriptor descriptor_;

@@ -4,6 +4,7 @@
 
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "tags/open_song.h"
 #include "ui/controls.h"
 
 namespace velmora::tags {
@@ -22,8 +23,12 @@ class BusyFile {
   /// Shows "File is busy, please wait ..." while the file is held and tests it once a second, letting events
   /// through. Returns false when the wait was given up. The label is emptied after a wait.
   bool waitUntilFree(const Text& path);
+  /// The same, and leaves the song open, so that no other program can take it meanwhile.
+  bool waitUntilFree(OpenSong& song);
 
  private:
+  bool wait(const std::function<bool()>& busy);
+
   platform::Files& files_;
   platform::Desktop& desktop_;
   ui::Label& statusLabel_;

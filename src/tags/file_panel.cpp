@@ -1,6 +1,8 @@
 #include "tags/file_panel.h"
 
 #include <cstdint>
+#include <memory>
+#include <optional>
 
 #include "core/number_text.h"
 #include "core/paths.h"
@@ -46,12 +48,25 @@ void FilePanel::info(const Text& path, int row, InfoMode mode) {
     cache_.read(path, row);
     return;
   }
+  std::unique_ptr<platform::OpenFile> file;
+  std::optional<SongBytes> bytes;
+  show(path, row, mode, [&]() -> SongBytes& {
+    file = files_.open(path, platform::OpenMode::Read);
+    return bytes.emplace(*file);
+  });
+}
+
+void FilePanel::info(OpenSong& song, int row) {
+  table_.currentRow = row;
+  show(song.path(), row, InfoMode::Full, [&]() -> SongBytes& { return song.bytes(); });
+}
+
+void FilePanel::show(const Text& path, int row, InfoMode mode, const BytesOf& bytesOf) {
   clearLabels();
   const View chosen = clearTags();
   form1_.path.setText(path);
   try {
-    const auto file = files_.open(path, platform::OpenMode::Read);
-    SongBytes song(*file);
+    SongBytes& song = bytesOf();
     showFile(song, path);
     if (mode == InfoMode::WorkingRowsOnly && row > table_.brojfajlova()) return;
     if (song.size() > 0 && cache_.read(song, row)) offerViews(chosen);

@@ -4,6 +4,7 @@
 
 #include "core/track_table.h"
 #include "platform/files.h"
+#include "tags/open_song.h"
 #include "tags/song_bytes.h"
 #include "tags/tag_cache.h"
 #include "ui/form1.h"
@@ -30,6 +31,8 @@ class FilePanel {
   /// The view of the tag that was chosen stays chosen where the file has that tag. A file that cannot be
   /// opened leaves what could not be shown blank and the columns as they were.
   void info(const Text& path, int row, InfoMode mode = InfoMode::Full);
+  /// The full `info` of a song that may be open already.
+  void info(OpenSong& song, int row);
   /// Fills the tag boxes from the columns of the chosen tag, for the current row.
   void showTags();
   /// Puts the bare name and the artist and title parts of a row in their boxes.
@@ -43,6 +46,8 @@ class FilePanel {
     bool id3v2;
   };
 
+  using BytesOf = std::function<SongBytes&()>;
+  void show(const Text& path, int row, InfoMode mode, const BytesOf& bytesOf);
   void clearLabels();
   /// Takes both views out of use and blanks the tag boxes; returns what was chosen, both when none was.
   View clearTags();

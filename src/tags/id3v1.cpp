@@ -92,20 +92,24 @@ Bytes cMP3ID3v1::fields() const {
   return bytes;
 }
 
-void cMP3ID3v1::write() const {
-  const auto file = files_.open(path_, platform::OpenMode::ReadWrite);
-  const std::uint64_t size = file->size();
-  if (size == 0) throw notAValidMP3File(path_);
+void cMP3ID3v1::write(OpenSong& song) const {
+  const std::uint64_t size = song.bytes().size();
+  if (size == 0) throw notAValidMP3File(song.path());
   if (size <= tagBytes) return;
   std::array<char, marker.size()> found{};
-  file->readAt(size - tagBytes, found);
+  song.bytes().copy(size - tagBytes, found);
   // A new tag begins on the last byte of the file, not behind it; this placement is kept as it stands.
   const bool has = BytesView(found.data(), found.size()) == marker;
-  file->writeAt(has ? size - tagBytes : size - 1, fields());
+  song.write(has ? size - tagBytes : size - 1, fields());
 }
 
 UpdateResult cMP3ID3v1::Update(const UpdateContext& context) {
-  return updateWithDialog(context, u"V1", [this] { write(); });
+  OpenSong song(files_, path_);
+  return Update(context, song);
+}
+
+UpdateResult cMP3ID3v1::Update(const UpdateContext& context, OpenSong& song) {
+  return updateWithDialog(context, u"V1", song, [&] { write(song); });
 }
 
 }  // namespace velmora::tags

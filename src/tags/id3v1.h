@@ -27,6 +27,8 @@ class cMP3ID3v1 {
   /// Writes the fields to the file. A file of 128 bytes or less is left untouched; one of no bytes at all
   /// fails.
   UpdateResult Update(const UpdateContext& context);
+  /// The same through a song that may be open already.
+  UpdateResult Update(const UpdateContext& context, OpenSong& song);
 
   bool HasID3v1Tag() const { return hasTag_; }
 
@@ -38,7 +40,7 @@ class cMP3ID3v1 {
 
  private:
   void reset();
-  void write() const;
+  void write(OpenSong& song) const;
   Bytes fields() const;
 
   platform::Files& files_;

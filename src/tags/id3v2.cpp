@@ -133,7 +133,12 @@ void cMP3ID3v2::replaceFrame(BytesView frame, const Text& body) {
 }
 
 UpdateResult cMP3ID3v2::Update(const UpdateContext& context) {
-  return updateWithDialog(context, u"V2", [this] { writeTag(files_, path_, frames_); });
+  OpenSong song(files_, path_);
+  return Update(context, song);
+}
+
+UpdateResult cMP3ID3v2::Update(const UpdateContext& context, OpenSong& song) {
+  return updateWithDialog(context, u"V2", song, [&] { writeTag(song, frames_); });
 }
 
 }  // namespace velmora::tags

@@ -83,6 +83,8 @@ class cMP3ID3v2 {
   /// Writes the frame table to the file: in place where the tag has room, else by a copy of the whole file
   /// that takes its place in one step. A frame that cannot be written fails before the file is touched.
   UpdateResult Update(const UpdateContext& context);
+  /// The same through a song that may be open already.
+  UpdateResult Update(const UpdateContext& context, OpenSong& song);
 
  private:
   enum class Property {
@@ -114,7 +116,6 @@ class cMP3ID3v2 {
   void reset();
   void StoreFrame(BytesView frame, Bytes body);
   void storeGenre(const Text& text);
-  void write();
 
   platform::Files& files_;
   Text path_;

@@ -3,11 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <utility>
 
 #include "platform/file_error.h"
 #include "tags/id3v2_reader.h"
-#include "tags/insert_zero_bytes.h"
 #include "tags/update_result.h"
 
 namespace velmora::tags {
@@ -45,22 +43,21 @@ Bytes tagBytes(const FrameTable& frames) {
   return out;
 }
 
-void writeTag(platform::Files& files, const Text& path, const FrameTable& frames) {
+void writeTag(OpenSong& song, const FrameTable& frames) {
   Bytes tag = tagBytes(frames);
   const std::uint64_t total = tag.size();
+  SongBytes& bytes = song.bytes();
+  if (bytes.size() == 0) throw notAValidMP3File(song.path());
 
-  auto file = files.open(path, platform::OpenMode::ReadWrite);
-  SongBytes song(*file);
-  if (song.size() == 0) throw notAValidMP3File(path);
-  const auto position = FindID3Position(song);
-  const std::uint64_t oldSize = position ? tagSize(song, *position) : 0;
-  if (position && total < oldSize) {
+  const auto position = FindID3Position(bytes);
+  const std::uint64_t oldSize = position ? tagSize(bytes, *position) : 0;
+  if (total < oldSize) {
     PutBigEndian32(tag, sizeOffset, oldSize);
-    return file->writeAt(*position - 3, tag);
+    return song.write(*position - 3, tag);
   }
   const std::uint64_t newSize = (total / sizeStep + 1) * sizeStep;
   PutBigEndian32(tag, sizeOffset, newSize);
-  InsertZeroBytes(files, path, std::move(file), newSize - oldSize, tag);
+  song.InsertZeroBytes(newSize - oldSize, tag);
 }
 
 }  // namespace velmora::tags

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/files.h"
 #include "platform/text.h"
 #include "tags/id3v2_frames.h"
+#include "tags/open_song.h"
 
 namespace velmora::tags {
 
@@ -11,10 +11,10 @@ namespace velmora::tags {
 /// identifier has not four characters or a body was lost.
 Bytes tagBytes(const FrameTable& frames);
 
-/// Puts the frames as the tag of a file. Where the new tag is smaller than the size that the old one
+/// Puts the frames as the tag of a song. Where the new tag is smaller than the size that the old one
 /// declares, it goes over the old one and the file keeps its length; otherwise the file grows at its start,
 /// to a tag size that is a multiple of 2048. Throws FileError; the file is then as it was, unless a write in
 /// place failed half way.
-void writeTag(platform::Files& files, const Text& path, const FrameTable& frames);
+void writeTag(OpenSong& song, const FrameTable& frames);
 
 }  // namespace velmora::tags

@@ -70,8 +70,9 @@ std::int64_t secondsOf(std::uint64_t audioBytes, std::int32_t kilobits) {
 
 /// Where the first byte 0xFF at or behind `offset` lies.
 std::optional<std::uint64_t> findFrame(SongBytes& song, std::uint64_t offset) {
-  constexpr std::size_t stretch = 4096;
-  while (offset < song.size()) {
+  constexpr std::size_t largestStretch = 4096;
+  // The frame stands right there as a rule, often in the block that was read for the tag.
+  for (std::size_t stretch = 16; offset < song.size(); stretch = std::min(stretch * 4, largestStretch)) {
     const BytesView view = song.at(offset, stretch);
     if (view.empty()) return {};
     if (const auto found = view.find('\xFF'); found != BytesView::npos) return offset + found;

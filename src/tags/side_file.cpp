@@ -65,7 +65,6 @@ void SideFile::writeZeros(std::uint64_t count) {
 }
 
 void SideFile::takePlace() {
-  file_->flush();
   files_.replace(path_, song_);
   file_.reset();
 }

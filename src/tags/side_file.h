@@ -22,7 +22,7 @@ class SideFile {
   /// Adds to the end.
   void write(BytesView bytes);
   void writeZeros(std::uint64_t count);
-  /// Brings all to the disk and takes the song's place in one step, with its mode and owner. The song must be
+  /// Takes the song's place in one step, with its mode and owner, once all is on the disk. The song must be
   /// closed. Throws FileError; the song is then as it was.
   void takePlace();
 

@@ -13,28 +13,36 @@ constexpr std::size_t largestChunk = 64 * 1024;
 
 SongBytes::SongBytes(platform::OpenFile& file) : file_(file), size_(file.size()), chunk_(firstChunk) {}
 
-bool SongBytes::holds(std::uint64_t offset, std::size_t count) const {
-  return offset >= bufferStart_ && offset - bufferStart_ <= buffer_.size() &&
-         buffer_.size() - (offset - bufferStart_) >= count;
+bool SongBytes::Stretch::holds(std::uint64_t offset, std::size_t count) const {
+  return offset >= start && offset - start <= bytes.size() && bytes.size() - (offset - start) >= count;
+}
+
+const SongBytes::Stretch* SongBytes::find(std::uint64_t offset, std::size_t count) const {
+  if (head_.holds(offset, count)) return &head_;
+  return ahead_.holds(offset, count) ? &ahead_ : nullptr;
 }
 
 BytesView SongBytes::at(std::uint64_t offset, std::size_t count) {
   if (offset >= size_) return {};
   const std::uint64_t rest = size_ - offset;
   count = static_cast<std::size_t>(std::min<std::uint64_t>(count, rest));
-  if (!holds(offset, count)) {
-    const std::size_t ahead = static_cast<std::size_t>(std::min<std::uint64_t>(chunk_, rest));
-    buffer_.resize(std::max(count, ahead));
-    bufferStart_ = offset;
-    buffer_.resize(file_.readAt(offset, buffer_));
-    chunk_ = std::min(chunk_ * 2, largestChunk);
+  const Stretch* stretch = find(offset, count);
+  if (!stretch) {
+    Stretch& filled = offset == 0 && head_.bytes.empty() && count <= firstChunk ? head_ : ahead_;
+    const std::size_t chunk = &filled == &head_ ? firstChunk : chunk_;
+    filled.start = offset;
+    filled.bytes.resize(std::max(count, static_cast<std::size_t>(std::min<std::uint64_t>(chunk, rest))));
+    filled.bytes.resize(file_.readAt(offset, filled.bytes));
+    if (&filled == &ahead_) chunk_ = std::min(chunk_ * 2, largestChunk);
+    stretch = &filled;
   }
-  return BytesView(buffer_).substr(static_cast<std::size_t>(offset - bufferStart_), count);
+  return BytesView(stretch->bytes).substr(static_cast<std::size_t>(offset - stretch->start), count);
 }
 
 std::size_t SongBytes::copy(std::uint64_t offset, std::span<char> into) {
-  if (!holds(offset, into.size())) return file_.readAt(offset, into);
-  return buffer_.copy(into.data(), into.size(), static_cast<std::size_t>(offset - bufferStart_));
+  const Stretch* stretch = find(offset, into.size());
+  if (!stretch) return file_.readAt(offset, into);
+  return stretch->bytes.copy(into.data(), into.size(), static_cast<std::size_t>(offset - stretch->start));
 }
 
 std::uint32_t bigEndian(BytesView bytes) {

@@ -24,12 +24,17 @@ class SongBytes {
   std::size_t copy(std::uint64_t offset, std::span<char> into);
 
  private:
-  bool holds(std::uint64_t offset, std::size_t count) const;
+  struct Stretch {
+    Bytes bytes;
+    std::uint64_t start = 0;
+    bool holds(std::uint64_t offset, std::size_t count) const;
+  };
+  const Stretch* find(std::uint64_t offset, std::size_t count) const;
 
   platform::OpenFile& file_;
   std::uint64_t size_;
-  Bytes buffer_;
-  std::uint64_t bufferStart_ = 0;
+  Stretch head_;  // the first block stays, since all readers begin there
+  Stretch ahead_;
   std::size_t chunk_;
 };
 

@@ -4,13 +4,14 @@
 
 namespace velmora::tags {
 
-UpdateResult updateWithDialog(const UpdateContext& context, TextView version,
+UpdateResult updateWithDialog(const UpdateContext& context, TextView version, OpenSong& song,
                               const std::function<void()>& write) {
   for (bool retried = false;; retried = true) {
     try {
       write();
       return UpdateResult::Done;
     } catch (const platform::FileError& error) {
+      song.close();
       const Text text = u"Error while Update ID3 " + Text(version) + u" " +
                         context.table.path(context.table.currentRow) + u" #" +
                         core::number(std::int64_t{error.number}) + u" occurred:" + error.description;

@@ -5,6 +5,7 @@
 #include "core/track_table.h"
 #include "platform/dialogs.h"
 #include "platform/file_error.h"
+#include "tags/open_song.h"
 
 namespace velmora::tags {
 
@@ -17,10 +18,10 @@ struct UpdateContext {
   const core::TrackTable& table;  ///< the dialog names the path of its current row
 };
 
-/// Runs `write` and asks after each failure: "Error while Update ID3 V1 " and its like, with Abort, Retry and
-/// Ignore. `version` is "V1" or "V2". Once the user has chosen Retry, only Abort is told from success: an
-/// Ignore after it counts as Done.
-UpdateResult updateWithDialog(const UpdateContext& context, TextView version,
+/// Runs `write` and, after each failure, closes the song and asks: "Error while Update ID3 V1 " and its like,
+/// with Abort, Retry and Ignore. `version` is "V1" or "V2". Once the user has chosen Retry, only Abort is
+/// told from success: an Ignore after it counts as Done.
+UpdateResult updateWithDialog(const UpdateContext& context, TextView version, OpenSong& song,
                               const std::function<void()>& write);
 
 /// What a tag writer throws for a file that holds nothing to tag.

@@ -19,13 +19,16 @@ constexpr int pauseBelowVersion = 260;  // older systems need a moment after a f
 constexpr int pauseMilliseconds = 100;
 constexpr std::uint8_t noGenre = 255;
 
-/// Reads the tag that is to be changed. One that cannot be read counts as missing: writing it will say why.
+/// Reads the tag that is to be changed. A tag that cannot be read must not be written either, since all that
+/// the panel does not show would be lost: its failure is asked about like one of the write.
 template <typename Tag>
-void bind(Tag& tag, const Text& path) {
-  try {
-    tag.setMP3File(path);
-  } catch (const platform::FileError&) {
-  }
+bool bind(Tag& tag, TextView version, const UpdateContext& context, OpenSong& song) {
+  bool read = false;
+  updateWithDialog(context, version, song, [&] {
+    tag.read(song.bytes(), song.path());
+    read = true;
+  });
+  return read;
 }
 
 bool blank(const Text& text) {
@@ -47,38 +50,40 @@ void TagWriter::UpdateTags() {
   const player::FileHandOver handOver(parts_.player, path);
   if (handOver.held() && parts_.desktop.systemVersion() < pauseBelowVersion)
     parts_.desktop.sleep(pauseMilliseconds);
-  if (!parts_.busyFile.waitUntilFree(path)) return;
+  OpenSong song(parts_.files, path);
+  if (!parts_.busyFile.waitUntilFree(song)) return;
   if (core::paths::lastThree(path) != u"mp3") return;
   try {
-    parts_.files.clearAttributes(path);
+    if (!song.isOpen()) parts_.files.clearAttributes(path);
   } catch (const platform::FileError&) {
     // What keeps the file from being written shows in the dialog of the write.
   }
   const Text before = review::rowSnapshot(parts_.table, row);
-  if (!writeTags(path, row, handOver.held())) return;
+  if (!writeTags(song, row, handOver.held())) return;
   if (onWritten) onWritten(row, before);
-  showAgain(path, row);
+  showAgain(song, row);
 }
 
-bool TagWriter::writeTags(const Text& path, int row, bool released) {
+bool TagWriter::writeTags(OpenSong& song, int row, bool released) {
   ui::TagPanel& panel = parts_.form1.tags;
   const bool toID3v1 = panel.writeID3v1.checked();
   const bool toID3v2 = panel.writeID3v2.checked();
   if (toID3v1) {
-    if (!writeID3v1(path, row)) return false;
+    if (!writeID3v1(song, row)) return false;
     if (!released && parts_.desktop.systemVersion() < pauseBelowVersion)
       parts_.desktop.sleep(pauseMilliseconds);
   }
   if (toID3v2 && !panel.viewID3v2.enabled()) showNewID3v2(row);
   panel.writeID3v1.setChecked(toID3v1);
   panel.writeID3v2.setChecked(toID3v2);
-  return !toID3v2 || writeID3v2(path, row);
+  return !toID3v2 || writeID3v2(song, row);
 }
 
-bool TagWriter::writeID3v1(const Text& path, int row) {
+bool TagWriter::writeID3v1(OpenSong& song, int row) {
   const ui::TagPanel& panel = parts_.form1.tags;
+  const UpdateContext context{parts_.dialogs, parts_.table};
   cMP3ID3v1 tag(parts_.files);
-  bind(tag, path);
+  if (!bind(tag, u"V1", context, song)) return false;
   tag.Title = panel.title.text();
   tag.Artist = panel.artist.text();
   tag.Album = panel.album.text();
@@ -88,7 +93,7 @@ bool TagWriter::writeID3v1(const Text& path, int row) {
     tag.Genre = noGenre;
   else if (const auto code = genreCode(panel.genre.text()))
     tag.Genre = static_cast<std::uint8_t>(*code);
-  if (tag.Update({parts_.dialogs, parts_.table}) != UpdateResult::Done) return false;
+  if (tag.Update(context, song) != UpdateResult::Done) return false;
   parts_.table.track(row).procitan = false;
   return true;
 }
@@ -115,10 +120,11 @@ void TagWriter::showNewID3v2(int row) {
   panel.viewID3v2.setChosen(true);
 }
 
-bool TagWriter::writeID3v2(const Text& path, int row) {
+bool TagWriter::writeID3v2(OpenSong& song, int row) {
   const ui::TagPanel& panel = parts_.form1.tags;
+  const UpdateContext context{parts_.dialogs, parts_.table};
   cMP3ID3v2 tag(parts_.files);
-  bind(tag, path);
+  if (!bind(tag, u"V2", context, song)) return false;
   tag.setTitle(panel.title.text());
   tag.setArtist(panel.artist.text());
   tag.setAlbum(panel.album.text());
@@ -133,18 +139,18 @@ bool TagWriter::writeID3v2(const Text& path, int row) {
     tag.setGenre(static_cast<std::uint8_t>(*code));
   else
     tag.setOtherGenreName(genre);
-  if (tag.Update({parts_.dialogs, parts_.table}) != UpdateResult::Done) return false;
+  if (tag.Update(context, song) != UpdateResult::Done) return false;
   parts_.table.track(row).procitan = false;
   return true;
 }
 
-void TagWriter::showAgain(const Text& path, int row) {
+void TagWriter::showAgain(OpenSong& song, int row) {
   ui::TagPanel& panel = parts_.form1.tags;
   const bool toID3v1 = panel.writeID3v1.checked();
   const bool toID3v2 = panel.writeID3v2.checked();
   const bool viewedID3v1 = panel.viewID3v1.chosen();
   const bool viewedID3v2 = panel.viewID3v2.chosen();
-  parts_.panel.info(path, row);
+  parts_.panel.info(song, row);
   if (viewedID3v1 && panel.viewID3v1.enabled()) panel.viewID3v1.setChosen(true);
   if (viewedID3v2 && panel.viewID3v2.enabled()) panel.viewID3v2.setChosen(true);
   parts_.panel.showTags();

@@ -9,6 +9,7 @@
 #include "player/hand_over.h"
 #include "tags/busy_file.h"
 #include "tags/file_panel.h"
+#include "tags/open_song.h"
 #include "tags/update_result.h"
 #include "ui/form1.h"
 
@@ -38,13 +39,13 @@ class TagWriter {
   void UpdateTags();
 
  private:
-  bool writeTags(const Text& path, int row, bool released);
-  bool writeID3v1(const Text& path, int row);
-  bool writeID3v2(const Text& path, int row);
+  bool writeTags(OpenSong& song, int row, bool released);
+  bool writeID3v1(OpenSong& song, int row);
+  bool writeID3v2(OpenSong& song, int row);
   void showNewID3v2(int row);
   /// Number in the track box, which ends empty when that is 0.
   double takeTrack();
-  void showAgain(const Text& path, int row);
+  void showAgain(OpenSong& song, int row);
 
   Parts parts_;
 };

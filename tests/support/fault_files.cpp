@@ -33,6 +33,7 @@ class FaultFile final : public OpenFile {
     files_.step("file flush", path_);
     real_->flush();
   }
+  bool lockAlone() override { return real_->lockAlone(); }
 
  private:
   FaultFiles& files_;

@@ -1,0 +1,65 @@
+#include "tags/open_song.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/paths.h"
+#include "core/text.h"
+#include "platform/file_error.h"
+#include "tags/side_file.h"
+
+namespace velmora::tags {
+
+OpenSong::OpenSong(platform::Files& files, Text path) : files_(files), path_(std::move(path)) {}
+
+platform::OpenFile& OpenSong::open() {
+  if (!file_) file_ = files_.open(path_, platform::OpenMode::ReadWrite);
+  return *file_;
+}
+
+void OpenSong::close() {
+  bytes_.reset();
+  file_.reset();
+}
+
+bool OpenSong::busy() {
+  try {
+    if (open().lockAlone()) return false;
+    close();
+    return true;
+  } catch (const platform::FileError&) {
+    return files_.busy(path_);
+  }
+}
+
+SongBytes& OpenSong::bytes() {
+  if (!bytes_) bytes_.emplace(open());
+  return *bytes_;
+}
+
+void OpenSong::write(std::uint64_t offset, BytesView bytes) {
+  bytes_.reset();
+  open().writeAt(offset, bytes);
+}
+
+void OpenSong::InsertZeroBytes(std::uint64_t count, BytesView head) {
+  constexpr std::size_t blockBytes = 256 * 1024;
+  const Text stem = Text(core::dropRight(core::paths::fileName(path_), 4)) + u"ID3tagadd";
+  SideFile side(files_, path_, stem, u".tmp");
+  side.write(head);
+  if (head.size() < count) side.writeZeros(count - head.size());
+
+  std::uint64_t at = head.size() > count ? head.size() - count : 0;  // the head lies over these
+  const std::uint64_t size = open().size();
+  Bytes block(static_cast<std::size_t>(std::min<std::uint64_t>(blockBytes, size)), '\0');
+  while (at < size) {
+    const std::size_t got = open().readAt(at, block);
+    if (got == 0) throw platform::FileError(platform::FileError::deviceError);
+    side.write(BytesView(block).substr(0, got));
+    at += got;
+  }
+  close();
+  side.takePlace();
+}
+
+}  // namespace velmora::tags

@@ -1,0 +1,121 @@
+// Whatever fails while a tag is written or removed, the song comes out whole, and nothing stays beside it.
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/file_error.h"
+#include "tags/id3v1.h"
+#include "tags/id3v2.h"
+#include "tags/tag_removal.h"
+#include "tests/support/fault_files.h"
+#include "tests/support/file_errors.h"
+#include "tests/support/scripted_desktop.h"
+#include "tests/tags/tag_fixture.h"
+
+namespace velmora::tags {
+namespace {
+
+class IgnoringDialogs final : public platform::Dialogs {
+ public:
+  platform::Answer message(const Text&, const Text&, platform::Buttons, platform::Icon) override {
+    return platform::Answer::Ignore;
+  }
+  std::optional<Text> input(const Text&, const Text&, const Text&) override { return {}; }
+  std::optional<Text> pickFolder(const Text&, const Text&) override { return {}; }
+};
+
+class TagFaults : public TagFixture {
+ protected:
+  using Job = std::function<void(platform::Files&, const Text& path)>;
+
+  template <typename Tag>
+  Job writing() {
+    return [this](platform::Files& with, const Text& path) {
+      Tag tag(with);
+      tag.setMP3File(path);
+      if constexpr (std::is_same_v<Tag, cMP3ID3v1>)
+        tag.Title = u"Song";
+      else
+        tag.setTitle(u"Song");
+      tag.Update({ignoring, table});
+    };
+  }
+
+  /// Runs the job with a fault at each of its operations in turn, until it runs through without one. The song
+  /// must come out as it was, or as it is when nothing fails.
+  void survivesFaults(const Bytes& before, const Job& job) {
+    const Text path = folder.write(u"song.mp3", before);
+    job(files, path);
+    const Bytes after = folder.read(u"song.mp3");
+    ASSERT_NE(before, after);
+    for (int nth = 1;; ++nth) {
+      SCOPED_TRACE(nth);
+      folder.write(u"song.mp3", before);
+      test::FaultFiles faults(files);
+      faults.failAt(nth, platform::FileError::diskFull);
+      test::errorNumber([&] { job(faults, path); });
+      const Bytes now = folder.read(u"song.mp3");
+      EXPECT_TRUE(now == before || now == after);
+      // The removal of what is beside the song may be what fails.
+      EXPECT_TRUE(files.list(folder.path()).entries.size() == 1 || faults.log.back().starts_with("remove"));
+      if (!faults.hasFailed()) break;
+    }
+  }
+
+  IgnoringDialogs ignoring;
+  const Bytes audio = test::mpegFrames(100);
+  const Bytes oldTag = test::Id3v2Maker().text("TIT2", u"Old").padding(500).plainBytes();
+};
+
+TEST_F(TagFaults, WritingAnID3v1Tag) {
+  survivesFaults(audio, writing<cMP3ID3v1>());
+  survivesFaults(audio + test::id3v1Tag({}), writing<cMP3ID3v1>());
+}
+
+TEST_F(TagFaults, WritingAnID3v2TagInPlaceAndByGrowth) {
+  survivesFaults(oldTag + audio, writing<cMP3ID3v2>());
+  survivesFaults(audio, writing<cMP3ID3v2>());
+}
+
+TEST_F(TagFaults, RemovingTags) {
+  test::ScriptedDesktop desktop;
+  player::NoFileHolder player;
+  survivesFaults(test::Id3v2Maker().padding(500).bytes() + audio,
+                 [&](platform::Files& with, const Text& path) { SkiniID3v2(with, desktop, player, path); });
+  survivesFaults(audio + test::id3v1Tag({}),
+                 [&](platform::Files& with, const Text& path) { SkiniID3v1(with, desktop, player, path); });
+}
+
+TEST_F(TagFaults, ADiskThatGetsFullLeavesTheSongWhole) {
+  const Bytes large = test::mpegFrames(3000);
+  const Text path = folder.write(u"song.mp3", large);
+  const test::FileSizeLimit limit(1'000'000);
+  writing<cMP3ID3v2>()(files, path);
+  EXPECT_EQ(folder.read(u"song.mp3"), large);
+  EXPECT_EQ(files.list(folder.path()).entries.size(), 1U);
+}
+
+TEST_F(TagFaults, AKillInTheMiddleOfGrowthLeavesTheOldOrTheNewSong) {
+  const Bytes large = test::mpegFrames(2000);
+  const Text path = folder.write(u"song.mp3", large);
+  for (int microseconds = 0; microseconds < 3000; microseconds += 250) {
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      writing<cMP3ID3v2>()(files, path);
+      ::_exit(0);
+    }
+    ::usleep(static_cast<useconds_t>(microseconds));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    const Bytes now = folder.read(u"song.mp3");
+    ASSERT_TRUE(now == large || (now.size() == large.size() + 2048 && now.substr(2048) == large));
+    folder.write(u"song.mp3", large);
+  }
+}
+
+}  // namespace
+}  // namespace velmora::tags
