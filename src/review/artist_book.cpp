@@ -81,7 +81,7 @@ void ArtistBook::remove(const Text& artist) {
 
 void ArtistBook::openBatch() {
   if (!batch_) {
-    batch_.emplace();
+    batch_.emplace(Index{});
     for (std::size_t i = 0; i < table_.autori.size(); ++i) batch_->places.emplace(table_.autori[i], i);
   }
   ++batch_->scopes;

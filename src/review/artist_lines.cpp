@@ -1,8 +1,5 @@
 #include "review/artist_lines.h"
 
-#include <algorithm>
-#include <ranges>
-
 #include "core/text.h"
 
 namespace velmora::review::artist_lines {
@@ -15,9 +12,16 @@ int find(const ui::ListBox& List1, const Text& artist) {
   // The list is sorted without regard to case, so spellings that differ in capitals are neighbours.
   const Text wanted = core::upper(artist);
   const auto capitals = [&List1](int index) { return core::upper(List1.List(index)); };
-  const auto all = std::views::iota(0, List1.ListCount());
-  for (int i = static_cast<int>(std::ranges::lower_bound(all, wanted, {}, capitals) - all.begin());
-       i < List1.ListCount() && capitals(i) == wanted; ++i)
+  int first = 0;
+  for (int end = List1.ListCount(); first < end;) {
+    const int middle = first + (end - first) / 2;
+    if (capitals(middle) < wanted) {
+      first = middle + 1;
+    } else {
+      end = middle;
+    }
+  }
+  for (int i = first; i < List1.ListCount() && capitals(i) == wanted; ++i)
     if (List1.List(i) == artist) return i;
   return -1;
 }
