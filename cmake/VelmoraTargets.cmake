@@ -7,7 +7,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 find_program(VELMORA_CCACHE ccache)
 if(VELMORA_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${VELMORA_CCACHE})
+  # Paths are seen from the source tree, so that one clone's objects serve the next.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
+                                  CCACHE_NOHASHDIR=1 ${VELMORA_CCACHE})
 endif()
 
 add_library(velmora_flags INTERFACE)
