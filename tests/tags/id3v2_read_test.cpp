@@ -220,7 +220,7 @@ TEST_F(ID3v2Read, DamagedSongsAreReadWithoutHarm) {
     SongBytes bytes(file);
     cMP3ID3v2 tag(files);
     EXPECT_NO_THROW(tag.read(bytes, u"song.mp3"));
-    EXPECT_EQ(file.content, song.bytes);
+    EXPECT_EQ(file.content(), song.bytes);
     EXPECT_LE(file.bytesRead, 3 * song.bytes.size() + 64 * 1024);
   }
 }
