@@ -86,7 +86,7 @@ void FolderScan::afterEntry() {
     shownAt_ = now;
     showFound();
   }
-  parts_.progress.pump();
+  parts_.desktop.pumpEvents();
 }
 
 void FolderScan::showFound() {
@@ -106,7 +106,7 @@ std::vector<Text> artistFolders(const FolderScan::Parts& parts, const Text& base
         if (parts.table.Stop) break;
         if (entry.kind == EntryKind::Folder && paths::fitsRecord(entry.name))
           names.push_back(std::move(entry.name));
-        parts.progress.pump();
+        parts.desktop.pumpEvents();
       }
     } catch (const platform::FileError&) {
       // The other genres are found all the same.

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <set>
+#include <unordered_set>
 #include <vector>
 
 #include "core/track_table.h"
@@ -43,6 +43,13 @@ class FolderScan {
   int leftOut() const { return leftOut_; }
 
  private:
+  struct FolderIdHash {
+    std::size_t operator()(const platform::FolderId& id) const {
+      constexpr std::uint64_t mixer = 0x9E3779B97F4A7C15;  // the golden ratio's bits, without any pattern
+      return static_cast<std::size_t>(id.node ^ (id.device * mixer));
+    }
+  };
+
   void walk(const Text& folder);
   bool onListAlready(TextView folder) const;
   std::vector<Text> takeFiles(const Text& folder);
@@ -53,7 +60,7 @@ class FolderScan {
   Parts parts_;
   Mode mode_;
   std::vector<Text> extensions_;
-  std::set<platform::FolderId> walked_;
+  std::unordered_set<platform::FolderId, FolderIdHash> walked_;
   std::int64_t music_ = 0;
   std::int64_t other_ = 0;
   int leftOut_ = 0;

@@ -224,7 +224,7 @@ void ListMaker::readTags(int rows) {
   for (int row = 1; row <= rows && !table.Stop; ++row) {
     parts_.panel.info(table.path(row), row, tags::InfoMode::TagsOnly);
     parts_.progress.UpdateProgress(100.0 * row / rows);
-    parts_.progress.pump();
+    parts_.desktop.pumpEvents();
   }
 }
 
@@ -232,7 +232,7 @@ void ListMaker::readTags(int rows) {
 void ListMaker::findDashes() {
   for (int row = 1; row <= parts_.table.rows(); ++row) {
     parts_.dashes.find(row);
-    parts_.progress.pump();
+    parts_.desktop.pumpEvents();
   }
 }
 
@@ -251,7 +251,7 @@ void ListMaker::sumSizes() {
   double bytes = 0;
   for (int row = 1; row <= table.workingRows(); ++row) {
     bytes += bytesOf(parts_.files, table.path(row));
-    parts_.progress.pump();
+    parts_.desktop.pumpEvents();
   }
   table.velicinasfiles = std::abs(bytes);
   parts_.settings.setNumber(u"velicinasfiles", static_cast<std::int64_t>(table.velicinasfiles));

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "core/number_text.h"
+#include "core/paths.h"
 #include "core/text.h"
 #include "names/grammar.h"
 
@@ -13,7 +14,7 @@ DashFinder::DashFinder(core::TrackTable& table, const review::ArtistBook& artist
 
 void DashFinder::find(int row) {
   if (!table_.hasRow(row)) return;
-  const Text name = ImeFajla(table_, row);
+  const TextView name = core::paths::bareName(table_.path(row));
   const bool inBase = row > table_.brojfajlova();
   const int start = inBase ? dashStart(name, artists_.FolderAutor(row)) : 1;
   int dash = core::position(name, u"-", start);

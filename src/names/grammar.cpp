@@ -49,11 +49,11 @@ Text ImeFajla(const core::TrackTable& table, int row) {
 }
 
 void PevacIPesma(core::TrackTable& table, int row) {
-  const Text name = ImeFajla(table, row);
+  const TextView name = core::paths::bareName(table.path(row));
   const int dash = core::intValue(table.track(row).crtapos.text());
   const int length = core::length(name);
   if (dash == 0)
-    table.setParts(row, {}, name);
+    table.setParts(row, {}, Text(name));
   else if (dash == length)
     table.setParts(row, Text(core::dropRight(name, 1)), {});
   else

@@ -28,10 +28,14 @@ void ArtistBook::IzbaciAutora(const Text& artist) {
 
 Text ArtistBook::FolderAutor(int row) const {
   const Text none = u" ";
-  const Text root = core::paths::withSeparator(table_.dirzabazu);
+  const Text& root = table_.dirzabazu;
   TextView below = table_.path(row);
-  if (table_.dirzabazu.empty() || !below.starts_with(root)) return none;
+  if (root.empty() || !below.starts_with(root)) return none;
   below.remove_prefix(root.size());
+  if (root.back() != core::paths::separator) {
+    if (!below.starts_with(core::paths::separator)) return none;
+    below.remove_prefix(1);
+  }
   const std::size_t genreEnd = below.find(core::paths::separator);
   if (genreEnd == TextView::npos) return none;
   below.remove_prefix(genreEnd + 1);
