@@ -64,6 +64,7 @@ class FolderScan {
   std::int64_t music_ = 0;
   std::int64_t other_ = 0;
   int leftOut_ = 0;
+  std::int64_t entries_ = 0;
   std::optional<std::int64_t> shownAt_;  // milliseconds
 };
 

@@ -151,12 +151,12 @@ void ListMaker::makeList(const Text& folder, Found& found) {
   parts_.progress.UpdateProgress(40);
   parts_.progress.setText(u"Read ID3 tag...");
   table.resizeColumns();
-  readTags(rowsToRead);
+  const auto sizes = readTags(rowsToRead);
   findDashes();
   parts_.data.SaveID3nizove(table);
   collectArtists();
   parts_.data.savenizove(table);
-  sumSizes();
+  sumSizes(sizes);
 }
 
 void ListMaker::findOldArtists() {
@@ -219,13 +219,16 @@ void ListMaker::showRows() {
   parts_.windows.form1.List4.fill(std::move(paths));
 }
 
-void ListMaker::readTags(int rows) {
+/// Returns the lengths of the files that were opened for it, one place for each row.
+std::vector<std::optional<std::uint64_t>> ListMaker::readTags(int rows) {
   core::TrackTable& table = parts_.table;
+  std::vector<std::optional<std::uint64_t>> sizes(static_cast<std::size_t>(rows));
   for (int row = 1; row <= rows && !table.Stop; ++row) {
-    parts_.panel.info(table.path(row), row, tags::InfoMode::TagsOnly);
+    sizes[static_cast<std::size_t>(row - 1)] = parts_.panel.readTags(table.path(row), row);
     parts_.progress.UpdateProgress(100.0 * row / rows);
     parts_.desktop.pumpEvents();
   }
+  return sizes;
 }
 
 /// Stop does not end this one: a row without its name parts would be no row.
@@ -246,11 +249,14 @@ void ListMaker::collectArtists() {
   });
 }
 
-void ListMaker::sumSizes() {
+/// `known` holds the lengths of the first rows, as far as they need not be asked for again.
+void ListMaker::sumSizes(const std::vector<std::optional<std::uint64_t>>& known) {
   core::TrackTable& table = parts_.table;
   double bytes = 0;
   for (int row = 1; row <= table.workingRows(); ++row) {
-    bytes += bytesOf(parts_.files, table.path(row));
+    const auto place = static_cast<std::size_t>(row - 1);
+    bytes += place < known.size() && known[place] ? static_cast<double>(*known[place])
+                                                  : bytesOf(parts_.files, table.path(row));
     parts_.desktop.pumpEvents();
   }
   table.velicinasfiles = std::abs(bytes);

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
+#include <vector>
 
 #include "core/data_folder.h"
 #include "core/settings.h"
@@ -75,10 +78,10 @@ class ListMaker {
   void cutTail();
   void appendTail();
   void showRows();
-  void readTags(int rows);
+  std::vector<std::optional<std::uint64_t>> readTags(int rows);
   void findDashes();
   void collectArtists();
-  void sumSizes();
+  void sumSizes(const std::vector<std::optional<std::uint64_t>>& known);
   void tellLeftOut(int count);
   void tell(const Text& text);
 

@@ -1,8 +1,5 @@
 #include "names/dash_finder.h"
 
-#include <cstdint>
-
-#include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
 #include "names/grammar.h"
@@ -24,8 +21,7 @@ void DashFinder::find(int row) {
   }
   // "Track 01 - Song" names no artist.
   if (dash > 0 && core::startsWithNoCase(name, u"track")) dash = 0;
-  table_.track(row).crtapos = core::number(std::int64_t{dash});
-  PevacIPesma(table_, row);
+  setDash(table_, row, dash);
 }
 
 bool DashFinder::artistInTags(int row, TextView artist) {

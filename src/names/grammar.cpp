@@ -1,5 +1,6 @@
 #include "names/grammar.h"
 
+#include <cstdint>
 #include <utility>
 
 #include "core/number_text.h"
@@ -42,15 +43,9 @@ Text withoutTrackWord(TextView name) {
   return core::replaceAll(name, name.substr(at, word.size()), {});
 }
 
-}  // namespace
-
-Text ImeFajla(const core::TrackTable& table, int row) {
-  return Text(core::paths::bareName(table.path(row)));
-}
-
-void PevacIPesma(core::TrackTable& table, int row) {
+/// Gives a row the parts that a dash at this position of its name leaves.
+void cutAt(core::TrackTable& table, int row, int dash) {
   const TextView name = core::paths::bareName(table.path(row));
-  const int dash = core::intValue(table.track(row).crtapos.text());
   const int length = core::length(name);
   if (dash == 0)
     table.setParts(row, {}, Text(name));
@@ -58,6 +53,21 @@ void PevacIPesma(core::TrackTable& table, int row) {
     table.setParts(row, Text(core::dropRight(name, 1)), {});
   else
     table.setParts(row, Text(core::left(name, dash - 1)), Text(core::right(name, length - dash)));
+}
+
+}  // namespace
+
+Text ImeFajla(const core::TrackTable& table, int row) {
+  return Text(core::paths::bareName(table.path(row)));
+}
+
+void PevacIPesma(core::TrackTable& table, int row) {
+  cutAt(table, row, core::intValue(table.track(row).crtapos.text()));
+}
+
+void setDash(core::TrackTable& table, int row, int dash) {
+  table.track(row).crtapos = core::number(std::int64_t{dash});
+  cutAt(table, row, dash);
 }
 
 Text SamoSlova(TextView text) {

@@ -10,6 +10,8 @@ namespace velmora::names {
 Text ImeFajla(const core::TrackTable& table, int row);
 /// Derives the artist and title parts of a row from its dash position. Neither is trimmed.
 void PevacIPesma(core::TrackTable& table, int row);
+/// Stores a dash position in a row and derives the parts from it.
+void setDash(core::TrackTable& table, int row, int dash);
 /// Comparison key of a name: its letters A to Z in capitals, or the text itself when fewer than 3 remain.
 Text SamoSlova(TextView text);
 /// The text with each character that a file name cannot hold replaced by a blank.

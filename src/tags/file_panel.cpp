@@ -43,17 +43,24 @@ void fill(ui::Form1& form1, const core::Element& title, const core::Element& art
 }  // namespace
 
 void FilePanel::info(const Text& path, int row, InfoMode mode) {
-  table_.currentRow = row;
   if (mode == InfoMode::TagsOnly) {
-    cache_.read(path, row);
+    readTags(path, row);
     return;
   }
+  table_.currentRow = row;
   std::unique_ptr<platform::OpenFile> file;
   std::optional<SongBytes> bytes;
   show(path, row, mode, [&]() -> SongBytes& {
     file = files_.open(path, platform::OpenMode::Read);
     return bytes.emplace(*file);
   });
+}
+
+std::optional<std::uint64_t> FilePanel::readTags(const Text& path, int row) {
+  table_.currentRow = row;
+  std::optional<std::uint64_t> bytes;
+  cache_.read(path, row, &bytes);
+  return bytes;
 }
 
 void FilePanel::info(OpenSong& song, int row) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 
 #include "core/track_table.h"
 #include "platform/files.h"
@@ -31,6 +33,8 @@ class FilePanel {
   /// The view of the tag that was chosen stays chosen where the file has that tag. A file that cannot be
   /// opened leaves what could not be shown blank and the columns as they were.
   void info(const Text& path, int row, InfoMode mode = InfoMode::Full);
+  /// `info` with TagsOnly. Returns the length of the file in bytes when it had to be opened.
+  std::optional<std::uint64_t> readTags(const Text& path, int row);
   /// The full `info` of a song that may be open already.
   void info(OpenSong& song, int row);
   /// Fills the tag boxes from the columns of the chosen tag, for the current row.

@@ -69,11 +69,12 @@ void store(core::Track& track, Id3v2Values tag) {
 
 }  // namespace
 
-bool TagCache::read(const Text& path, int row) {
+bool TagCache::read(const Text& path, int row, std::optional<std::uint64_t>* bytes) {
   if (table_.track(row).procitan.isTrue()) return true;
   try {
     const auto file = files_.open(path, platform::OpenMode::Read);
     SongBytes song(*file);
+    if (bytes) *bytes = song.size();
     return read(song, row);
   } catch (const platform::FileError&) {
     return false;

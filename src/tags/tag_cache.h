@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "core/track_table.h"
 #include "platform/files.h"
 #include "tags/song_bytes.h"
@@ -15,7 +18,8 @@ class TagCache {
   /// Reads both tags of `path` into the columns of `row` with one opening of the file, unless the row was
   /// read. Bodies of frames that no column takes are not read. A file of no bytes is not read, and one that
   /// cannot be read leaves the columns as they were. Returns whether the columns hold what the file says.
-  bool read(const Text& path, int row);
+  /// `bytes`, when given, receives the length of the file if it was opened.
+  bool read(const Text& path, int row, std::optional<std::uint64_t>* bytes = nullptr);
   /// The same for a file that is open already.
   bool read(SongBytes& song, int row);
 
