@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "app/shut_down.h"
 #include "core/paths.h"
 
 namespace velmora::app {
@@ -74,12 +73,5 @@ House::House(const Services& given, Folders where)
              .closing = closing,
              .base = base,
              .events = events}) {}
-
-void House::requestEnd() {
-  if (ending) return;
-  ending = true;
-  modal.dismissAll();
-  work.whenAtRest([this] { shutDown(*this); });
-}
 
 }  // namespace velmora::app

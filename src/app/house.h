@@ -7,8 +7,8 @@
 #include "app/front_window.h"
 #include "app/modal_wait.h"
 #include "app/processing_window.h"
+#include "app/services.h"
 #include "app/table_loader.h"
-#include "app/velmora.h"
 #include "app/work.h"
 #include "core/data_folder.h"
 #include "core/settings.h"
@@ -81,9 +81,6 @@ struct House {
   ProcessingWindow processing;
   BaseWindow base;
   FrontWindow front;
-
-  /// Ends the program as soon as nothing runs; a running command is stopped, a window that waits is closed.
-  void requestEnd();
 };
 
 }  // namespace velmora::app

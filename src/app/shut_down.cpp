@@ -39,6 +39,13 @@ void leave(House& house) {
 
 }  // namespace
 
+void requestEnd(House& house) {
+  if (house.ending) return;
+  house.ending = true;
+  house.modal.dismissAll();
+  house.work.whenAtRest([&house] { shutDown(house); });
+}
+
 void shutDown(House& house) {
   if (house.ended || house.shuttingDown) return;
   house.shuttingDown = true;

@@ -4,7 +4,11 @@ namespace velmora::app {
 
 struct House;
 
-/// The end of the program: stores everything and closes every window, in the order in which closing the Music
+/// Ends the program as soon as nothing runs: a running command is stopped, a window that is waited for
+/// closes.
+void requestEnd(House& house);
+
+/// The end itself: stores everything and closes every window, in the order in which closing the Music
 /// Base Window does. Each step is guarded, so that none keeps the next from being stored.
 void shutDown(House& house);
 

@@ -4,20 +4,11 @@
 
 #include "app/enable_commands.h"
 #include "app/house.h"
+#include "app/shut_down.h"
 #include "app/start_up.h"
 #include "app/wiring.h"
 
 namespace velmora::app {
-
-std::function<void()> command(House& house, ui::Window& window, std::function<void()> run) {
-  return [&house, &window, run = std::move(run)] {
-    if (window.enabled()) house.work.run(run);
-  };
-}
-
-std::function<void()> opens(House& house, ui::Window& parent, ui::Window& opened) {
-  return command(house, parent, [&house, &opened] { house.modal.run(opened); });
-}
 
 namespace {
 
@@ -48,7 +39,7 @@ void Velmora::start() {
 }
 
 void Velmora::requestEnd() {
-  house_->requestEnd();
+  app::requestEnd(*house_);
 }
 
 bool Velmora::ended() const {

@@ -4,28 +4,11 @@
 #include <memory>
 
 #include "app/events.h"
+#include "app/services.h"
 #include "core/track_table.h"
-#include "platform/desktop.h"
-#include "platform/dialogs.h"
-#include "platform/files.h"
-#include "platform/trash.h"
 #include "ui/windows.h"
 
 namespace velmora::app {
-
-/// What the program asks of the machine, each with a real and a scripted implementation.
-struct Services {
-  platform::Files& files;
-  platform::Trash& trash;
-  platform::Dialogs& dialogs;
-  platform::Desktop& desktop;
-};
-
-/// Where the program keeps its state, and where its shipped files lie when they are not there.
-struct Folders {
-  Text program;
-  Text shipped;
-};
 
 struct House;
 

@@ -1,17 +1,18 @@
 #include "app/house.h"
+#include "app/shut_down.h"
 #include "app/wiring.h"
 
 namespace velmora::app {
 
 void wireForm3(House& house) {
   ui::Form3& form3 = house.windows.form3;
-  form3.onCloseRequest = [&house] { house.requestEnd(); };
+  form3.onCloseRequest = [&house] { requestEnd(house); };
   form3.onActivate = [&house] {
     house.front.baseActivated();
     house.progress.restore();
   };
 
-  form3.exit.onClick = [&house] { house.requestEnd(); };
+  form3.exit.onClick = [&house] { requestEnd(house); };
   form3.showProcessingWindow.onClick = command(house, form3, [&house] { house.front.showProcessing(); });
   form3.selectMainFolder.onClick = command(house, form3, [&house] { house.base.selectMainFolder(); });
   form3.about.onClick = opens(house, form3, house.windows.frmAbout);
