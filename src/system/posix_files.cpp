@@ -184,18 +184,15 @@ Bytes PosixFiles::readAll(const Text& path) {
 void PosixFiles::writeAll(const Text& path, BytesView bytes) {
   const Bytes native = nativePath(path);
   Descriptor file = openOwn(native, O_WRONLY);
-  // The old content is not thrown away before the new one has room: a full disk leaves it as it was.
+  // What goes beyond the old content comes first, since that alone needs room: a full disk leaves the old
+  // content as it was.
   const std::uint64_t oldSize = sizeOf(file, native);
-  if (bytes.size() > oldSize) {
-    const auto room = static_cast<off_t>(bytes.size());
-    const int result = untilDone([&] { return ::fallocate(file.get(), FALLOC_FL_KEEP_SIZE, 0, room); });
-    if (result != 0 && (errno == ENOSPC || errno == EDQUOT)) {
-      const int code = errno;
-      [[maybe_unused]] const int freed = ::ftruncate(file.get(), static_cast<off_t>(oldSize));
-      throwFileError(code, native);
-    }
+  const std::size_t inPlace = std::min<std::size_t>(bytes.size(), oldSize);
+  if (const int code = writeFully(file.get(), bytes.substr(inPlace), inPlace)) {
+    [[maybe_unused]] const int cut = ::ftruncate(file.get(), static_cast<off_t>(oldSize));
+    throwFileError(code, native);
   }
-  if (const int code = writeFully(file.get(), bytes, 0)) throwFileError(code, native);
+  if (const int code = writeFully(file.get(), bytes.substr(0, inPlace), 0)) throwFileError(code, native);
   if (bytes.size() < oldSize && ::ftruncate(file.get(), static_cast<off_t>(bytes.size())) != 0)
     throwErrno(native);
   if (const int code = file.close()) throwFileError(code, native);

@@ -6,6 +6,7 @@
 
 #include "core/text.h"
 #include "system/posix_files.h"
+#include "tests/support/file_errors.h"
 #include "tests/support/temp_folder.h"
 
 namespace velmora::core {
@@ -155,6 +156,19 @@ TEST_F(DataFolderTest, AColumnThatCannotBeWrittenLosesItsFile) {
   ASSERT_EQ(::chmod(toBytes(data.path(u"autori.txt")).c_str(), 0444), 0);
   data.writeList(u"autori.txt", {u"new"});
   EXPECT_FALSE(exists(u"autori.txt"));
+}
+
+TEST_F(DataFolderTest, AFullDiskCostsTheColumnsThatDoNotFitAndNoOther) {
+  fill();
+  table.track(1).albumid3v1 = Text(5000, u'x');
+  data.SaveID3nizove(table);
+  {
+    const test::FileSizeLimit full(4096);
+    table.track(1).albumid3v1 = Text(6000, u'x');
+    data.SaveID3nizove(table);
+  }
+  EXPECT_FALSE(exists(u"albumid3v1.txt"));
+  EXPECT_EQ(read(u"procitan.txt"), "\r\n#TRUE#\r\n\r\n\r\n");
 }
 
 TEST_F(DataFolderTest, WhatStandsInTheWayOfItIsLeftAlone) {

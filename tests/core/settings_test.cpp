@@ -5,6 +5,7 @@
 
 #include "core/records.h"
 #include "system/posix_files.h"
+#include "tests/support/file_errors.h"
 #include "tests/support/temp_folder.h"
 
 namespace velmora::core {
@@ -70,6 +71,14 @@ TEST_F(SettingsTest, AReadOnlyFileStaysAndNoFailureShows) {
   ASSERT_EQ(::chmod(folder.native(u"Settings.ini").c_str(), 0444), 0);
   settings.set(u"ton", u"2");
   EXPECT_EQ(settings.get(u"ton"), u"1");
+}
+
+TEST_F(SettingsTest, AFullDiskLeavesTheFileAsItWas) {
+  settings.set(u"ton", u"1");
+  const test::FileSizeLimit full(4096);
+  settings.set(u"novidir", Text(5000, u'x'));
+  EXPECT_EQ(settings.get(u"ton"), u"1");
+  EXPECT_EQ(settings.get(u"novidir"), u"");
 }
 
 TEST_F(SettingsTest, ALineShorterThanItsGapHasAnEmptyValue) {

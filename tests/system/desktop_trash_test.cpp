@@ -1,5 +1,6 @@
 #include "system/desktop_trash.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <regex>
 #include <sys/stat.h>
@@ -38,10 +39,10 @@ TEST_F(TrashTest, AFileLiesInTheHomeTrashWithItsInfo) {
   EXPECT_EQ(trash.send(song), home.path(u"Trash/files/100% \xDCE9 \u0161.mp3"));
   EXPECT_FALSE(real.fileExists(song));
   EXPECT_EQ(home.read(u"Trash/files/100% \xDCE9 \u0161.mp3"), "song");
-  const Bytes expected = "\\[Trash Info\\]\nPath=" + core::toBytes(music.path()) +
-                         "/100%25%20%E9%20%C5%A1.mp3\n"
-                         "DeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n";
-  EXPECT_TRUE(std::regex_match(info(u"100% \xDCE9 \u0161.mp3"), std::regex(expected)));
+  EXPECT_THAT(info(u"100% \xDCE9 \u0161.mp3"),
+              testing::MatchesRegex("\\[Trash Info\\]\nPath=" + core::toBytes(music.path()) +
+                                    "/100%25%20%E9%20%C5%A1[.]mp3\nDeletionDate=[0-9]{4}-[0-9]{2}-[0-9]{2}"
+                                    "T[0-9]{2}:[0-9]{2}:[0-9]{2}\n"));
   struct stat status;
   ASSERT_EQ(::stat(home.native(u"Trash").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777, 0700U);

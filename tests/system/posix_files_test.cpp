@@ -106,6 +106,7 @@ TEST_F(PosixFilesTest, AFullDiskLeavesTheOldContent) {
   const Text path = folder.write(u"own", "old content");
   const test::FileSizeLimit limit(4096);
   EXPECT_NE(errorNumber([&] { files.append(path, Bytes(8192, 'x')); }), 0);
+  EXPECT_NE(errorNumber([&] { files.writeAll(path, Bytes(8192, 'x')); }), 0);
   EXPECT_EQ(folder.read(u"own"), "old content");
 }
 
