@@ -105,14 +105,16 @@ int run(const Options& options) {
       options.folder.empty()
           ? (std::filesystem::temp_directory_path() / ("velmora_bench." + std::to_string(getpid()))).string()
           : std::filesystem::absolute(options.folder).string();
+  std::vector<Scene> scenes;
   std::vector<Series> sizes;
   for (const int files : options.sizes) {
-    const Scene scene = prepare(folder, files);
-    Series series{files, {}};
-    // The first round only warms the cache of the system.
-    runRound(options, scene, nullptr);
-    for (int i = 0; i < options.rounds; ++i) runRound(options, scene, &series);
-    sizes.push_back(std::move(series));
+    scenes.push_back(prepare(folder, files));
+    sizes.push_back({files, {}});
+    // A round that does not count warms the cache of the system.
+    runRound(options, scenes.back(), nullptr);
+  }
+  for (int round = 0; round < options.rounds; ++round) {
+    for (std::size_t i = 0; i < sizes.size(); ++i) runRound(options, scenes[i], &sizes[i]);
   }
   if (options.folder.empty()) std::filesystem::remove_all(folder);
   const int missed = report(sizes);

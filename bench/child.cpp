@@ -57,8 +57,9 @@ Outcome runInChild(const Job& job, const Scene& scene) {
   waitpid(child, &status, 0);
   Outcome outcome;
   Measured& measured = outcome.measured;
-  if (status != 0 || std::sscanf(answer.c_str(), "%lf %d %d %ld", &measured.seconds, &measured.files,
-                                 &measured.tableRows, &outcome.peakKiB) != 4) {
+  if (status != 0 ||
+      std::sscanf(answer.c_str(), "%lf %lf %d %d %ld", &measured.seconds, &measured.processorSeconds,
+                  &measured.files, &measured.tableRows, &outcome.peakKiB) != 5) {
     throw std::runtime_error(std::string("the job ") + job.name + " failed");
   }
   return outcome;
@@ -69,7 +70,8 @@ int childMain(int count, char** arguments) {
   if (job == nullptr) return 2;
   try {
     const Measured measured = job->run({arguments[1], arguments[2], arguments[3]});
-    std::printf("%.9f %d %d %ld\n", measured.seconds, measured.files, measured.tableRows, peakKiB());
+    std::printf("%.9f %.9f %d %d %ld\n", measured.seconds, measured.processorSeconds, measured.files,
+                measured.tableRows, peakKiB());
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "%s: %s\n", job->name, failure.what());
     return 1;

@@ -3,6 +3,8 @@
 #include <span>
 #include <string>
 
+#include "bench/stop_watch.h"
+
 namespace velmora::bench {
 
 /// What a job works on. All folders are full paths.
@@ -14,9 +16,15 @@ struct Scene {
 
 struct Measured {
   double seconds = 0;
+  double processorSeconds = 0;
   int files = 0;      ///< listed: rows of the working list
   int tableRows = 0;  ///< rows of the table, with the copy of the base behind the list
 };
+
+/// The time that passed on `watch`, with the counts of the job.
+inline Measured measured(const StopWatch& watch, int files, int tableRows) {
+  return {watch.seconds(), watch.processorSeconds(), files, tableRows};
+}
 
 /// The collection that a job works on.
 enum class Music {

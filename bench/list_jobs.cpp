@@ -5,7 +5,6 @@
 
 #include "bench/floor.h"
 #include "bench/headless.h"
-#include "bench/stop_watch.h"
 #include "core/text.h"
 #include "tags/tag_cache.h"
 
@@ -13,8 +12,7 @@ namespace velmora::bench {
 namespace {
 
 Measured measure(const StopWatch& watch, HeadlessProgram& program) {
-  const double seconds = watch.seconds();
-  return {seconds, program.table().brojfajlova(), program.table().rows()};
+  return measured(watch, program.table().brojfajlova(), program.table().rows());
 }
 
 /// Adds the new music to an empty list; the time is that of the Add button alone.
@@ -27,10 +25,10 @@ Measured addTo(const Scene& scene, bool withBase) {
   program.form1().folderTree.click(core::fromBytes(scene.newMusic));
   const StopWatch watch;
   program.form1().add.click();
-  const Measured measured = measure(watch, program);
-  if (measured.files == 0) throw std::runtime_error("Add found nothing");
+  const Measured result = measure(watch, program);
+  if (result.files == 0) throw std::runtime_error("Add found nothing");
   program.end();
-  return measured;
+  return result;
 }
 
 void listFiles(const std::string& folder, core::TrackTable& table) {
@@ -44,7 +42,7 @@ void listFiles(const std::string& folder, core::TrackTable& table) {
 Measured floorOfList(const Scene& scene) {
   const StopWatch watch;
   const FloorTotals totals = readFloor(scene.newMusic);
-  return {watch.seconds(), totals.files, 0};
+  return measured(watch, totals.files, 0);
 }
 
 Measured emptyProgram(const Scene& scene) {
@@ -52,9 +50,9 @@ Measured emptyProgram(const Scene& scene) {
   HeadlessProgram program(scene.state);
   const StopWatch watch;
   program.start();
-  const Measured measured = measure(watch, program);
+  const Measured result = measure(watch, program);
   program.end();
-  return measured;
+  return result;
 }
 
 Measured readTags(const Scene& scene) {
@@ -66,7 +64,7 @@ Measured readTags(const Scene& scene) {
   tags::TagCache cache(table, files);
   const StopWatch watch;
   for (int row = 1; row <= table.rows(); ++row) cache.read(table.path(row), row);
-  return {watch.seconds(), table.rows(), table.rows()};
+  return measured(watch, table.rows(), table.rows());
 }
 
 Measured add(const Scene& scene) {
@@ -81,9 +79,9 @@ Measured load(const Scene& scene) {
   HeadlessProgram program(scene.state);
   const StopWatch watch;
   program.start();
-  const Measured measured = measure(watch, program);
-  if (measured.tableRows <= measured.files) throw std::runtime_error("there is no tail to load");
-  return measured;
+  const Measured result = measure(watch, program);
+  if (result.tableRows <= result.files) throw std::runtime_error("there is no tail to load");
+  return result;
 }
 
 }  // namespace velmora::bench

@@ -20,23 +20,19 @@ const std::vector<Outcome>* find(const Series& series, const char* job) {
   return found == series.outcomes.end() ? nullptr : &found->second;
 }
 
-double seconds(const Series& series, const char* job) {
+std::vector<double> times(const Series& series, const char* job, double Measured::*clock) {
   std::vector<double> all;
   if (const auto* outcomes = find(series, job)) {
-    for (const Outcome& outcome : *outcomes) all.push_back(outcome.measured.seconds);
+    for (const Outcome& outcome : *outcomes) all.push_back(outcome.measured.*clock);
   }
-  return median(all);
+  return all;
 }
 
-/// Median of the ratios within each round: what slows the machine for a while slows both sides alike.
-double ratio(const Series& series, const char* job, const char* against) {
-  const auto* above = find(series, job);
-  const auto* below = find(series, against);
-  if (above == nullptr || below == nullptr) return 0;
+/// Round by round, since what slows the machine for a while slows both sides alike.
+double medianRatio(const std::vector<double>& above, const std::vector<double>& below) {
   std::vector<double> all;
-  for (std::size_t i = 0; i < std::min(above->size(), below->size()); ++i) {
-    if ((*below)[i].measured.seconds > 0)
-      all.push_back((*above)[i].measured.seconds / (*below)[i].measured.seconds);
+  for (std::size_t i = 0; i < std::min(above.size(), below.size()); ++i) {
+    if (below[i] > 0) all.push_back(above[i] / below[i]);
   }
   return median(all);
 }
@@ -56,37 +52,46 @@ const char* verdict(double figure, double most, int& missed) {
   return "OVER";
 }
 
+void printTarget(double figure, double most, int& missed) {
+  if (most > 0) std::printf("   at most %.1f  %s", most, verdict(figure, most, missed));
+  std::printf("\n");
+}
+
+/// A job of one size against one of the same or another size, by both clocks. Returns the ratio of the times.
+double printRatio(const Series& above, const char* job, const Series& below, const char* against) {
+  const auto ratioBy = [&](double Measured::*clock) {
+    return medianRatio(times(above, job, clock), times(below, against, clock));
+  };
+  const double ratio = ratioBy(&Measured::seconds);
+  std::printf(" %6.2f x (%.2f)", ratio, ratioBy(&Measured::processorSeconds));
+  return ratio;
+}
+
 void printTimes(const Series& series, int& missed) {
-  std::printf("\n%d files\n", series.files);
-  std::printf("  %-16s %10s %12s %10s  %-22s %s\n", "job", "seconds", "us per file", "peak MiB", "ratio", "");
+  std::printf("\n%d files\n  %-16s %9s %12s %9s   %s\n", series.files, "job", "seconds", "us per file",
+              "peak MiB", "times its yardstick (in processor time)");
   for (const Job& job : jobs()) {
-    const auto* outcomes = find(series, job.name);
-    if (outcomes == nullptr) continue;
-    const double time = seconds(series, job.name);
-    std::printf("  %-16s %10.3f %12.2f %10.1f", job.name, time, time * 1e6 / series.files,
+    const double seconds = median(times(series, job.name, &Measured::seconds));
+    if (seconds == 0) continue;
+    std::printf("  %-16s %9.3f %12.2f %9.1f  ", job.name, seconds, seconds * 1e6 / series.files,
                 peakKiB(series, job.name) / 1024);
-    if (const double share = ratio(series, job.name, job.against); share > 0) {
-      char text[64];
-      std::snprintf(text, sizeof text, "%.2f x %s", share, job.against);
-      std::printf("  %-22s", text);
-      if (job.mostRatio > 0)
-        std::printf(" at most %.1f  %s", job.mostRatio, verdict(share, job.mostRatio, missed));
+    if (find(series, job.against) != nullptr) {
+      printTarget(printRatio(series, job.name, series, job.against), job.mostRatio, missed);
+      std::printf("  of %s", job.against);
     }
     std::printf("\n");
   }
 }
 
 void printSlopes(const Series& smaller, const Series& larger, int& missed) {
-  std::printf("\n%d files against %d\n", larger.files, smaller.files);
+  std::printf("\n%d files against %d (in processor time)\n", larger.files, smaller.files);
+  // A target stands for a doubling.
+  const bool doubled = larger.files == 2 * smaller.files;
   for (const Job& job : jobs()) {
-    const double before = seconds(smaller, job.name);
-    const double after = seconds(larger, job.name);
-    if (job.mostSlope == 0 || before == 0 || after == 0) continue;
-    // A target stands for a doubling.
-    const bool doubled = larger.files == 2 * smaller.files;
-    std::printf("  %-16s %6.2f x", job.name, after / before);
-    if (doubled)
-      std::printf("   at most %.1f  %s", job.mostSlope, verdict(after / before, job.mostSlope, missed));
+    if (job.mostSlope == 0 || find(smaller, job.name) == nullptr || find(larger, job.name) == nullptr)
+      continue;
+    std::printf("  %-16s", job.name);
+    printTarget(printRatio(larger, job.name, smaller, job.name), doubled ? job.mostSlope : 0, missed);
     std::printf("\n");
   }
 }
