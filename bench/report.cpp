@@ -54,7 +54,6 @@ const char* verdict(double figure, double most, int& missed) {
 
 void printTarget(double figure, double most, int& missed) {
   if (most > 0) std::printf("   at most %.1f  %s", most, verdict(figure, most, missed));
-  std::printf("\n");
 }
 
 /// A job of one size against one of the same or another size, by both clocks. Returns the ratio of the times.
