@@ -6,12 +6,11 @@ namespace velmora::tags {
 
 namespace {
 
-constexpr std::size_t firstChunk = 4096;
 constexpr std::size_t largestChunk = 64 * 1024;
 
 }  // namespace
 
-SongBytes::SongBytes(platform::OpenFile& file) : file_(file), size_(file.size()), chunk_(firstChunk) {}
+SongBytes::SongBytes(platform::OpenFile& file) : file_(file), size_(file.size()) {}
 
 bool SongBytes::Stretch::holds(std::uint64_t offset, std::size_t count) const {
   return offset >= start && offset - start <= bytes.size() && bytes.size() - (offset - start) >= count;
@@ -24,19 +23,24 @@ const SongBytes::Stretch* SongBytes::find(std::uint64_t offset, std::size_t coun
 
 BytesView SongBytes::at(std::uint64_t offset, std::size_t count) {
   if (offset >= size_) return {};
-  const std::uint64_t rest = size_ - offset;
-  count = static_cast<std::size_t>(std::min<std::uint64_t>(count, rest));
+  count = static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset));
   const Stretch* stretch = find(offset, count);
-  if (!stretch) {
-    Stretch& filled = offset == 0 && head_.bytes.empty() && count <= firstChunk ? head_ : ahead_;
-    const std::size_t chunk = &filled == &head_ ? firstChunk : chunk_;
-    filled.start = offset;
-    filled.bytes.resize(std::max(count, static_cast<std::size_t>(std::min<std::uint64_t>(chunk, rest))));
-    filled.bytes.resize(file_.readAt(offset, filled.bytes));
-    if (&filled == &ahead_) chunk_ = std::min(chunk_ * 2, largestChunk);
-    stretch = &filled;
-  }
-  return BytesView(stretch->bytes).substr(static_cast<std::size_t>(offset - stretch->start), count);
+  if (!stretch) stretch = offset == 0 && count <= firstChunk ? &readHead() : &readAhead(offset, count);
+  return stretch->bytes.substr(static_cast<std::size_t>(offset - stretch->start), count);
+}
+
+const SongBytes::Stretch& SongBytes::readHead() {
+  head_.bytes = BytesView(headBlock_.data(), file_.readAt(0, headBlock_));
+  return head_;
+}
+
+const SongBytes::Stretch& SongBytes::readAhead(std::uint64_t offset, std::size_t count) {
+  const std::size_t chunk = static_cast<std::size_t>(std::min<std::uint64_t>(chunk_, size_ - offset));
+  ahead_ = {};
+  aheadBlock_.resize(std::max(count, chunk));
+  ahead_ = {BytesView(aheadBlock_.data(), file_.readAt(offset, aheadBlock_)), offset};
+  chunk_ = std::min(chunk_ * 2, largestChunk);
+  return ahead_;
 }
 
 std::size_t SongBytes::copy(std::uint64_t offset, std::span<char> into) {

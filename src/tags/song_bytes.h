@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 
@@ -15,6 +16,8 @@ class SongBytes {
  public:
   /// `file` must outlive this object.
   explicit SongBytes(platform::OpenFile& file);
+  SongBytes(const SongBytes&) = delete;
+  SongBytes& operator=(const SongBytes&) = delete;
 
   /// Length of the file in bytes when this object was made.
   std::uint64_t size() const { return size_; }
@@ -24,18 +27,26 @@ class SongBytes {
   std::size_t copy(std::uint64_t offset, std::span<char> into);
 
  private:
+  static constexpr std::size_t firstChunk = 4096;
+
   struct Stretch {
-    Bytes bytes;
+    BytesView bytes;
     std::uint64_t start = 0;
     bool holds(std::uint64_t offset, std::size_t count) const;
   };
   const Stretch* find(std::uint64_t offset, std::size_t count) const;
+  const Stretch& readHead();
+  const Stretch& readAhead(std::uint64_t offset, std::size_t count);
 
   platform::OpenFile& file_;
   std::uint64_t size_;
   Stretch head_;  // the first block stays, since all readers begin there
   Stretch ahead_;
-  std::size_t chunk_;
+  // What the stretches see. The first block is all that most songs are asked for, and it is not worth a trip
+  // to the heap, which would tidy itself up for a block of that size.
+  std::array<char, firstChunk> headBlock_;
+  Bytes aheadBlock_;
+  std::size_t chunk_ = firstChunk;
 };
 
 /// Number of 3 or 4 bytes, the most significant first.
