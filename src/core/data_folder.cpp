@@ -152,21 +152,35 @@ void DataFolder::savenizove(const TrackTable& table) {
   writeList(autoriFile, table.autori);
 }
 
-/// Row by row and not column by column, so that each row is fetched from memory once for all files.
+/// Row by row and not column by column, so that each row is fetched from memory once for all files. Rows of
+/// the tail hold nothing, and there may be many: what holds nothing is only counted until something follows.
 void DataFolder::SaveID3nizove(const TrackTable& table) {
-  const auto columns = tagColumns();
-  std::vector<Bytes> contents(columns.size());
-  std::vector<int> bounds;
-  for (const Column column : columns) bounds.push_back(table.upperBound(column));
-  const int last = std::ranges::max(bounds);
+  struct File {
+    Column column;
+    int rows;
+    Bytes content;
+    std::size_t nothing = 0;  // elements not yet in the content
+  };
+  std::vector<File> files;
+  for (const Column column : tagColumns()) files.push_back({column, table.upperBound(column), {}});
+  const int last = std::ranges::max(files, {}, &File::rows).rows;
   for (int row = 1; row <= last; ++row) {
     const Track& track = table.track(row);
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      if (row > bounds[i]) continue;
-      records::write(contents[i], table.hasRow(row) ? track.*columns[i] : table.element(columns[i], row));
+    for (File& file : files) {
+      if (row > file.rows) continue;
+      const Element& element = table.hasRow(row) ? track.*file.column : table.element(file.column, row);
+      if (element.isNothing()) {
+        ++file.nothing;
+        continue;
+      }
+      records::writeNothing(file.content, std::exchange(file.nothing, 0));
+      records::write(file.content, element);
     }
   }
-  for (std::size_t i = 0; i < columns.size(); ++i) store(fileOf(columns[i]), contents[i]);
+  for (File& file : files) {
+    records::writeNothing(file.content, file.nothing);
+    store(fileOf(file.column), file.content);
+  }
 }
 
 void DataFolder::readNames(TrackTable& table) const {

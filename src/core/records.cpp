@@ -35,6 +35,12 @@ void write(Bytes& out, const Element& element) {
   out += lineEnd;
 }
 
+void writeNothing(Bytes& out, std::size_t count) {
+  std::size_t at = out.size();
+  out.resize(at + count * lineEnd.size());
+  for (; at < out.size(); at += lineEnd.size()) lineEnd.copy(out.data() + at, lineEnd.size());
+}
+
 void writeText(Bytes& out, TextView text) {
   out += '"';
   const std::size_t from = out.size();

@@ -12,6 +12,8 @@ namespace velmora::core::records {
 
 /// Adds one record with its line end to `out`.
 void write(Bytes& out, const Element& element);
+/// Adds `count` records that hold nothing.
+void writeNothing(Bytes& out, std::size_t count);
 /// Adds one quoted text with its line end to `out`. A double quote inside ends the text on reading; a text
 /// with a line break behind that quote is cut at the break.
 void writeText(Bytes& out, TextView text);
