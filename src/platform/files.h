@@ -45,6 +45,9 @@ class OpenFile {
   virtual std::size_t readAt(std::uint64_t offset, std::span<char> into) = 0;
   /// Writes all of `bytes` at `offset`, growing the file where needed.
   virtual void writeAt(std::uint64_t offset, BytesView bytes) = 0;
+  /// Takes the file's end away, so that `bytes` are left; never makes it longer. For files of the program's
+  /// own.
+  virtual void cutTo(std::uint64_t bytes) = 0;
   /// Brings what was written to the disk.
   virtual void flush() = 0;
   /// Keeps other programs off the file until it is closed. False when one of them holds it. Never throws.

@@ -12,8 +12,11 @@ constexpr std::uint64_t blockBytes = 65536;
 // What stands between two records, as far as it tells them apart: a line may end with LF alone.
 constexpr BytesView boundary = "\n\"";
 
-/// The text between the quotes of one chunk, line end included; nothing when the chunk is torn.
+/// The text between the quotes of one chunk, line end included; nothing when the chunk is torn. Rubbish behind
+/// the record is left out.
 std::optional<BytesView> recordOf(BytesView chunk) {
+  if (const std::size_t end = chunk.rfind("\"\r\n"); end != BytesView::npos && end > 0)
+    chunk = chunk.substr(0, end + 1);
   while (!chunk.empty() && (chunk.back() == '\n' || chunk.back() == '\r')) chunk.remove_suffix(1);
   if (chunk.size() < 2 || chunk.front() != '"' || chunk.back() != '"') return std::nullopt;
   return chunk.substr(1, chunk.size() - 2);
@@ -32,7 +35,8 @@ std::vector<BytesView> split(BytesView bytes) {
   return records;
 }
 
-void visitFromEnd(platform::OpenFile& file, const std::function<bool(BytesView record)>& visit) {
+void visitFromEnd(platform::OpenFile& file,
+                  const std::function<bool(BytesView record, std::uint64_t offset)>& visit) {
   std::uint64_t offset = file.size();  // of the first byte in `held`
   Bytes held;                          // bytes not handed out yet
   std::size_t searchEnd = 0;           // no boundary begins in `held` at or behind this place
@@ -48,7 +52,7 @@ void visitFromEnd(platform::OpenFile& file, const std::function<bool(BytesView r
     }
     const std::size_t begin = at == Bytes::npos ? 0 : at + 1;
     const auto record = recordOf(BytesView(held).substr(begin));
-    if (record && !visit(*record)) return;
+    if (record && !visit(*record, offset + begin)) return;
     if (at == Bytes::npos) return;
     held.resize(begin);
     searchEnd = at;

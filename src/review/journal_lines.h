@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -17,7 +18,9 @@ namespace velmora::review::journal_lines {
 /// The records in `bytes`, the oldest first.
 std::vector<BytesView> split(BytesView bytes);
 /// Goes through the records of a file from the newest to the oldest, reading no more than it needs, until
-/// `visit` answers false. The view that it is given lasts for that call.
-void visitFromEnd(platform::OpenFile& file, const std::function<bool(BytesView record)>& visit);
+/// `visit` answers false. `offset` is where the line of the record begins, in bytes. The view lasts for that
+/// call.
+void visitFromEnd(platform::OpenFile& file,
+                  const std::function<bool(BytesView record, std::uint64_t offset)>& visit);
 
 }  // namespace velmora::review::journal_lines

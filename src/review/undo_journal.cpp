@@ -70,7 +70,7 @@ std::string UndoJournal::lastUndoMarker() const {
   if (!settings_.exists() || !exists()) return marker;
   try {
     const auto file = files_.open(path_, platform::OpenMode::Read);
-    journal_lines::visitFromEnd(*file, [&marker](BytesView record) {
+    journal_lines::visitFromEnd(*file, [&marker](BytesView record, std::uint64_t) {
       const BytesView kind = record.substr(0, kindLength);
       if (std::ranges::find(markerKinds, kind) != markerKinds.end()) marker = kind;
       return marker.empty();
@@ -93,15 +93,23 @@ std::vector<Text> UndoJournal::readRecords() const {
   return records;
 }
 
-void UndoJournal::rewrite(const std::vector<Text>& records) {
-  Bytes bytes;
-  for (const Text& record : records) bytes += lineOf(record);
+void UndoJournal::visitFromNewest(
+    const std::function<bool(const Text& record, std::uint64_t offset)>& visit) const {
+  if (!settings_.exists() || !exists()) return;
+  const auto file = files_.open(path_, platform::OpenMode::Read);
+  journal_lines::visitFromEnd(*file, [&visit](BytesView record, std::uint64_t offset) {
+    return visit(core::fromBytes(record), offset);
+  });
+}
+
+void UndoJournal::cutAt(std::uint64_t offset) {
+  if (!exists()) return;
   whole_ = false;
-  if (!exists()) return files_.writeAll(path_, bytes);
-  // In one step, since a journal cut short by a crash would lose what it still has to undo.
-  const Text fresh = path_ + u".new";
-  files_.writeAll(fresh, bytes);
-  files_.replace(fresh, path_);
+  files_.open(path_, platform::OpenMode::ReadWrite)->cutTo(offset);
+}
+
+std::uint64_t UndoJournal::size() const {
+  return exists() ? files_.size(path_) : 0;
 }
 
 void UndoJournal::remove() {

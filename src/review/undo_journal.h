@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -34,9 +35,15 @@ class UndoJournal {
   bool exists() const;
   /// All records, the oldest first. Torn and damaged lines are left out. Throws FileError.
   std::vector<Text> readRecords() const;
-  /// Makes `records` the whole journal, which may be empty. Throws FileError, and the journal is then as it
-  /// was.
-  void rewrite(const std::vector<Text>& records);
+  /// Goes through the records from the newest to the oldest, reading no more than it needs, until `visit`
+  /// answers false. `offset` is where the record's line begins, in bytes. Nothing when there is no journal or
+  /// no Settings.ini. Throws FileError.
+  void visitFromNewest(const std::function<bool(const Text& record, std::uint64_t offset)>& visit) const;
+  /// Takes away what begins at `offset` or behind it, in one step. Throws FileError, and the journal is then
+  /// as it was.
+  void cutAt(std::uint64_t offset);
+  /// Length in bytes; 0 when there is no journal.
+  std::uint64_t size() const;
   /// Deletes the file, which ends the history. No failure is reported.
   void remove();
 

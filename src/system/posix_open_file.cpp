@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 #include "system/posix_error.h"
@@ -34,6 +35,12 @@ std::size_t PosixOpenFile::readAt(std::uint64_t offset, std::span<char> into) {
 
 void PosixOpenFile::writeAt(std::uint64_t offset, BytesView bytes) {
   if (const int code = writeFully(descriptor_.get(), bytes, offset)) throwFileError(code, path_);
+}
+
+void PosixOpenFile::cutTo(std::uint64_t bytes) {
+  if (bytes >= size()) return;
+  if (untilDone([&] { return ::ftruncate(descriptor_.get(), static_cast<off_t>(bytes)); }) != 0)
+    throwErrno(path_);
 }
 
 void PosixOpenFile::flush() {

@@ -17,6 +17,7 @@ class PosixOpenFile final : public platform::OpenFile {
   std::uint64_t size() override;
   std::size_t readAt(std::uint64_t offset, std::span<char> into) override;
   void writeAt(std::uint64_t offset, BytesView bytes) override;
+  void cutTo(std::uint64_t bytes) override;
   void flush() override;
   bool lockAlone() override { return lockWhole(descriptor_.get()); }
 

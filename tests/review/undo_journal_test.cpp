@@ -105,8 +105,8 @@ TEST_F(UndoJournalTest, ATornTailIsDroppedAndSwallowsNoLaterRecord) {
 }
 
 TEST_F(UndoJournalTest, ADamagedLineTakesNoOtherLineAlong) {
-  write("\"st1\"\r\n\"mov002/a /b\r\nrubbish\r\n\r\n\"mkd002/c \"\n\x80\r\n\"mkd002/d \"\r\n");
-  EXPECT_EQ(journal.readRecords(), (Texts{u"st1", u"mkd002/d "}));
+  write("\"st1\"\r\n\"mov002/a /b\r\nrubbish\r\n\r\n\"mkd002/c \"\r\n\x80\r\n\"mkd002/d \"\r\n");
+  EXPECT_EQ(journal.readRecords(), (Texts{u"st1", u"mkd002/c ", u"mkd002/d "}));
   EXPECT_EQ(journal.lastUndoMarker(), "st1");
   write(Bytes("\0\0\xFF", 3));
   EXPECT_EQ(journal.readRecords(), Texts{});
@@ -128,16 +128,25 @@ TEST_F(UndoJournalTest, TextsOfTagsMayHoldQuotesAndLineBreaks) {
   }
 }
 
-TEST_F(UndoJournalTest, ARewriteLeavesExactlyTheRecordsGiven) {
+TEST_F(UndoJournalTest, ACutTakesTheNewestRecordsAndLeavesTheRestAsItStands) {
   for (const char* kind : {"st1", "st2", "fst"}) journal.appendUndoMarker(kind);
-  Texts records = journal.readRecords();
-  records.pop_back();
-  journal.rewrite(records);
+  const Bytes before = bytes();
+  Texts heard;
+  std::uint64_t cut = journal.size();
+  journal.visitFromNewest([&](const Text& record, std::uint64_t offset) {
+    heard.push_back(record);
+    cut = offset;
+    return record != u"st2";
+  });
+  EXPECT_EQ(heard, (Texts{u"fst", u"st2"}));
+  journal.cutAt(cut);
+  EXPECT_EQ(bytes(), before.substr(0, 7));
   journal.appendUndoMarker("dst");
-  EXPECT_EQ(journal.readRecords(), (Texts{u"st1", u"st2", u"dst"}));
-  journal.rewrite({});
+  EXPECT_EQ(journal.readRecords(), (Texts{u"st1", u"dst"}));
+  journal.cutAt(1000);
+  EXPECT_EQ(journal.size(), 14u) << "nothing stands there";
+  journal.cutAt(0);
   EXPECT_EQ(bytes(), "");
-  EXPECT_EQ(files.list(folder.path()).entries.size(), 2u) << "nothing is left beside it";
   journal.remove();
   journal.remove();
   EXPECT_FALSE(journal.exists());

@@ -29,6 +29,10 @@ class FaultFile final : public OpenFile {
     }
     real_->writeAt(offset, bytes);
   }
+  void cutTo(std::uint64_t bytes) override {
+    files_.step("file cut", path_);
+    real_->cutTo(bytes);
+  }
   void flush() override {
     files_.step("file flush", path_);
     real_->flush();
@@ -57,6 +61,7 @@ void FaultFiles::note(const char* operation, const Text& path, const Text& other
   std::string line = std::string(operation) + ' ' + core::toBytes(path);
   if (!other.empty()) line += ' ' + core::toBytes(other);
   log.push_back(std::move(line));
+  if (onOperation) onOperation();
 }
 
 void FaultFiles::step(const char* operation, const Text& path, const Text& other) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,8 @@ class FaultFiles final : public platform::Files {
   int operations() const { return static_cast<int>(log.size()); }
   /// One line for each operation, such as "move /a /b", with names as bytes.
   std::vector<std::string> log;
+  /// Hears of each operation once it is in the log, and may still choose that it is to fail.
+  std::function<void()> onOperation;
 
   /// volumeOf answers `volume` for the paths that begin with it.
   void pretendVolume(Text volume) { volumes_.push_back(std::move(volume)); }

@@ -18,4 +18,8 @@ void MemoryFile::writeAt(std::uint64_t offset, BytesView bytes) {
   content_->replace(start, bytes.size(), bytes);
 }
 
+void MemoryFile::cutTo(std::uint64_t bytes) {
+  if (bytes < content.size()) content.resize(static_cast<std::size_t>(bytes));
+}
+
 }  // namespace velmora::test

@@ -23,6 +23,7 @@ class MemoryFile final : public platform::OpenFile {
   std::uint64_t size() override { return content_->size(); }
   std::size_t readAt(std::uint64_t offset, std::span<char> into) override;
   void writeAt(std::uint64_t offset, BytesView bytes) override;
+  void cutTo(std::uint64_t bytes) override;
   void flush() override {}
 
  private:
