@@ -34,42 +34,12 @@ RenameResult Renamer::PromeniIme(int row, bool withUndo) {
       rename(row, withUndo);
       return RenameResult::Done;
     } catch (const FileError& error) {
-      const RenameResult answer = ask(u"Error While Renaming File " + parts_.table.path(row) + u" #" +
-                                      core::number(std::int64_t{error.number}) + u" Occurred: " +
-                                      error.description + u"\r\n      Wath To Do ?");
-      if (answer != RenameResult::Done) return answer;
-    }
-  }
-}
-
-RenameResult Renamer::RenameNoList(int row, const Text& newPath) {
-  const Text path = parts_.table.path(row);
-  if (path == newPath) return RenameResult::Done;
-  player::FileHandOver handOver(parts_.player, path);
-  for (;;) {
-    try {
-      parts_.files.move(path, newPath);
-      handOver.renamed(newPath);
-      return RenameResult::Done;
-    } catch (const FileError& error) {
       const RenameResult answer =
-          ask(u"Error while renaming file " + path + u" #" + core::number(std::int64_t{error.number}) +
-              u" occurred: " + error.description + u"      Wath i do ?");
+          askAboutRename(parts_.dialogs, u"Error While Renaming File " + parts_.table.path(row) + u" #" +
+                                             core::number(std::int64_t{error.number}) + u" Occurred: " +
+                                             error.description + u"\r\n      Wath To Do ?");
       if (answer != RenameResult::Done) return answer;
     }
-  }
-}
-
-/// Done stands for Retry.
-RenameResult Renamer::ask(const Text& text) const {
-  switch (parts_.dialogs.message(text, u"Rename", platform::Buttons::AbortRetryIgnore,
-                                 platform::Icon::Critical)) {
-    case platform::Answer::Abort:
-      return RenameResult::Abort;
-    case platform::Answer::Retry:
-      return RenameResult::Done;
-    default:
-      return RenameResult::Ignore;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "core/track_table.h"
+#include "names/plain_rename.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/file_error.h"
@@ -14,9 +15,6 @@
 #include "ui/form1.h"
 
 namespace velmora::names {
-
-/// What a rename came to; Abort ends the batch that called it.
-enum class RenameResult { Done = 0, Abort = 1, Ignore = 2 };
 
 /// The one way in which the file of a row gets a new name.
 class Renamer {
@@ -43,8 +41,6 @@ class Renamer {
   /// that equal the old name follow the new one. A name that is the old one changes nothing. Failures are
   /// shown.
   RenameResult PromeniIme(int row, bool withUndo);
-  /// The rename alone: neither box nor table nor journal. Failures are shown.
-  RenameResult RenameNoList(int row, const Text& newPath);
 
  private:
   struct OldName {
@@ -59,7 +55,6 @@ class Renamer {
   void showNewPath(int row, const OldName& old, const Text& newPath);
   void findDash(int row, const OldName& old);
   void followWithTags(int row, const OldName& old);
-  RenameResult ask(const Text& text) const;
 
   Parts parts_;
 };

@@ -35,6 +35,7 @@ Text timeText(double seconds) {
 
 PreviewPlayer::PreviewPlayer(Parts parts) : parts_(std::move(parts)) {
   parts_.media.onPlayStateChange = [this](PlayState, PlayState now) { stateChanged(now); };
+  enableControls();
 }
 
 void PreviewPlayer::playRow(int row) {
@@ -44,6 +45,7 @@ void PreviewPlayer::playRow(int row) {
   parts_.media.setFile(path);
   parts_.media.setVolume(parts_.table.ton);
   parts_.media.play();
+  enableControls();
   parts_.form1.statusLabel.setText(u"Now playing: " + path);
   parts_.panel.info(path, row);
 }
@@ -84,6 +86,19 @@ void PreviewPlayer::stateChanged(PlayState now) {
   parts_.form1.player.Timer4.setOn(now == PlayState::Playing && !knobHeld_);
   if (now == PlayState::Playing && onPlaying) onPlaying();
   if (now == PlayState::Stopped && !givenUp_) showPosition(0);
+  enableControls();
+}
+
+/// While the file is given up, the controls stay as they were: it comes back in a moment.
+void PreviewPlayer::enableControls() {
+  if (givenUp_) return;
+  ui::PlayerPanel& controls = parts_.form1.player;
+  const bool open = !parts_.media.file().empty();
+  const PlayState state = parts_.media.state();
+  controls.play.setEnabled(open && state != PlayState::Playing);
+  controls.pause.setEnabled(state == PlayState::Playing);
+  controls.stop.setEnabled(state != PlayState::Stopped);
+  controls.position.setEnabled(open);
 }
 
 void PreviewPlayer::tick() {
@@ -143,6 +158,7 @@ void PreviewPlayer::giveBack(const Text& path) {
   parts_.media.setVolume(parts_.table.ton);
   if (remembered.state != PlayState::Stopped) parts_.media.play();
   if (remembered.state == PlayState::Paused) parts_.media.pause();
+  enableControls();
   if (remembered.position == 0) return;
   parts_.media.setPosition(remembered.position);
   showPosition(remembered.position);
@@ -152,6 +168,7 @@ void PreviewPlayer::close() {
   givenUp_.reset();
   parts_.media.stop();
   parts_.media.setFile(u"");
+  enableControls();
 }
 
 }  // namespace velmora::player

@@ -65,6 +65,7 @@ class PreviewPlayer final : public FileHolder {
  private:
   void stateChanged(platform::PlayState now);
   void showPosition(double seconds);
+  void enableControls();
 
   /// What was heard when the file was given up.
   struct Remembered {

@@ -1,0 +1,55 @@
+#include "names/tag_batches.h"
+
+#include "core/text.h"
+
+namespace velmora::names {
+
+namespace {
+
+constexpr int artistListView = 3;
+
+}  // namespace
+
+void TagBatches::fromNames() {
+  const bool songs = parts_.table.vrsta == artistListView;
+  const tags::OwnValues ownValues(parts_.form1);
+  parts_.frame.run(u"Update ID3 Tags From Filename ...",
+                   songs ? parts_.frame.selectedSongs() : parts_.frame.selectedRows(), [this](int row) {
+                     const core::Track& track = parts_.table.track(row);
+                     ui::TagPanel& panel = parts_.form1.tags;
+                     parts_.panel.info(track.nizdes.text(), row);
+                     parts_.eachTagWriter.write(panel.writeID3v1.checked(), panel.writeID3v2.checked(),
+                                                [&panel, &track] {
+                                                  panel.artist.setText(Text(core::trim(track.pevac.text())));
+                                                  panel.title.setText(Text(core::trim(track.pesma.text())));
+                                                });
+                     return true;
+                   });
+}
+
+void TagBatches::update() {
+  const std::vector<int> rows = parts_.frame.selectedRows();
+  ui::Button& button = parts_.form1.update;
+  button.setEnabled(false);
+  if (rows.size() < 2 || parts_.table.vrsta == artistListView) {
+    const int row = parts_.table.currentRow;
+    if (parts_.table.hasRow(row))
+      parts_.frame.run(u"Update ID3 Tags ...", {row}, [this](int) {
+        parts_.tagWriter.UpdateTags();
+        return true;
+      });
+  } else {
+    parts_.frame.run(u"Update ID3 Tags ...", rows, [this](int row) {
+      {
+        const tags::KeptWriteMarks marks(parts_.form1.tags);
+        parts_.fields.blankUnticked();
+        parts_.panel.info(parts_.table.path(row), row);
+      }
+      parts_.tagWriter.UpdateTags();
+      return true;
+    });
+  }
+  button.setEnabled(true);
+}
+
+}  // namespace velmora::names
