@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/number_text.h"
+#include "list/view_choice.h"
 #include "names/grammar.h"
 #include "platform/file_error.h"
 
@@ -26,7 +27,7 @@ void RowKeeper::removeRow(int row) {
   core::TrackTable& table = parts_.table;
   if (!table.hasRow(row)) return;
   parts_.journal.appendUndoRecord("izb", core::number(std::int64_t{row}), rowSnapshot(table, row));
-  const bool listed = row <= table.brojfajlova() && listShowsMusic();
+  const bool listed = row <= table.brojfajlova() && list::viewOf(parts_.form1) == list::View::Music;
   const Text artist = table.track(row).pevac.text();
   table.removeRow(row);
   if (listed) parts_.form1.List4.RemoveItem(row - 1);
@@ -54,7 +55,8 @@ void RowKeeper::restoreRow(int row, const RowSnapshot& snapshot, const Text& pat
   if (table.vrsta == duplicatesView && onDuplicateRestored) onDuplicateRestored(row);
   if (working) {
     ui::ListBox& list = parts_.form1.List4;
-    if (listShowsMusic() && row - 1 <= list.ListCount()) list.insertItem(row - 1, path);
+    if (list::viewOf(parts_.form1) == list::View::Music && row - 1 <= list.ListCount())
+      list.insertItem(row - 1, path);
     try {
       table.velicinasfiles += static_cast<double>(parts_.files.size(path));
     } catch (const platform::FileError&) {

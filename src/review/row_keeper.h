@@ -34,8 +34,6 @@ class RowKeeper {
   void restoreRow(int row, const RowSnapshot& snapshot, const Text& path);
 
  private:
-  bool listShowsMusic() const { return !parts_.form1.ostali.chosen(); }
-
   Parts parts_;
 };
 

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/track_table.h"
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "player/hand_over.h"
+#include "review/undo_errors.h"
+#include "review/undo_outcome.h"
+#include "review/undo_record.h"
+#include "tags/busy_file.h"
+#include "tags/file_panel.h"
+
+namespace velmora::review {
+
+/// Takes back a write of tags ("id3"): columns and file get the values from before it.
+class TagRestorer {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    platform::Dialogs& dialogs;
+    platform::Desktop& desktop;
+    player::FileHolder& player;
+    tags::BusyFile& busyFile;
+    tags::FilePanel& panel;
+    UndoErrors& errors;
+  };
+  explicit TagRestorer(const Parts& parts) : parts_(parts) {}
+
+  /// A tag that the write made goes; one that has other values now is written. A file that is not there any
+  /// more is passed over: its columns alone go back.
+  UndoOutcome restore(int row, const RowSnapshot& before);
+
+ private:
+  void removeNewTags(const Text& path, const RowSnapshot& before);
+  UndoOutcome writeTags(const Text& path, core::Track& track);
+  bool makeWritable(const Text& path);
+
+  Parts parts_;
+};
+
+}  // namespace velmora::review

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/track_table.h"
+#include "list/closing_step.h"
+#include "platform/dialogs.h"
+#include "review/replay.h"
+#include "review/undo_journal.h"
+#include "tags/file_panel.h"
+#include "ui/form1.h"
+#include "ui/progress.h"
+
+namespace velmora::review {
+
+/// The commands of the Processing Window that take changes back, and the buttons that tell whether there is
+/// something to take back.
+class UndoCommands {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Dialogs& dialogs;
+    UndoJournal& journal;
+    Replay& replay;
+    list::ClosingStep& closing;
+    tags::FilePanel& panel;
+    ui::Progress& progress;
+    ui::Form1& form1;
+  };
+  explicit UndoCommands(const Parts& parts) : parts_(parts) {}
+
+  /// "Undo last operation", and "UNDO".
+  void undoLastOperation();
+  /// "Restore all changes after Check+Fix": asks first.
+  void restoreAllChanges();
+  /// Enables the buttons by what stands on top of the journal.
+  void showState();
+
+ private:
+  void clearFileSelection();
+  void showCurrentRow();
+
+  Parts parts_;
+};
+
+}  // namespace velmora::review
