@@ -65,7 +65,7 @@ HeadlessProgram::HeadlessProgram(const std::string& stateFolder)
       settings_(files_, core::fromBytes(stateFolder + "/Settings.ini")) {
   const Text folder = core::fromBytes(stateFolder);
   files_.makeFolder(folder);
-  program_ = std::make_unique<app::Velmora>(app::Services{files_, trash_, dialogs_, desktop_},
+  program_ = std::make_unique<app::Velmora>(app::Services{files_, trash_, dialogs_, desktop_, media_},
                                             app::Folders{folder, folder});
 }
 

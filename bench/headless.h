@@ -30,6 +30,24 @@ class QuietDesktop final : public platform::Desktop {
   std::int64_t lastFrame_ = 0;
 };
 
+/// A player without sound: it keeps the file that it was given, and never plays.
+class MutePlayer final : public platform::MediaPlayer {
+ public:
+  const Text& file() const override { return file_; }
+  void setFile(const Text& path) override { file_ = path; }
+  platform::PlayState state() const override { return platform::PlayState::Stopped; }
+  void play() override {}
+  void pause() override {}
+  void stop() override {}
+  double position() const override { return 0; }
+  void setPosition(double) override {}
+  double duration() const override { return 0; }
+  void setVolume(int) override {}
+
+ private:
+  Text file_;
+};
+
 /// Dialogs that consent. What goes wrong is told on standard error.
 class ConsentingDialogs final : public platform::Dialogs {
  public:
@@ -58,6 +76,7 @@ class HeadlessProgram {
   system::DesktopTrash trash_;
   QuietDesktop desktop_;
   ConsentingDialogs dialogs_;
+  MutePlayer media_;
   core::Settings settings_;
   std::unique_ptr<app::Velmora> program_;
 };

@@ -4,6 +4,12 @@
 
 namespace velmora::app {
 
+namespace {
+
+constexpr int artistListView = 3;
+
+}  // namespace
+
 void enableCommands(House& house) {
   const core::TrackTable& table = house.table;
   ui::Form1& form1 = house.windows.form1;
@@ -15,7 +21,21 @@ void enableCommands(House& house) {
   form1.add.setEnabled(!form1.folderTree.path().empty());
   form1.otherFiles.setEnabled(!table.niznomusic.empty());
   form1.assort.setEnabled(hasRows);
-  form1.update.setEnabled(musicView && hasCurrentRow);
+  const bool songsView = table.vrsta == artistListView;
+  house.repair.fields.selectionChanged(musicView && !songsView && form1.List4.SelCount() > 1);
+  const bool selected = musicView && form1.List4.SelCount() > 0;
+  const bool writes = form1.tags.writeID3v1.checked() || form1.tags.writeID3v2.checked();
+  form1.update.setEnabled(musicView && hasCurrentRow && writes);
+
+  ui::RepairTools& tools = form1.repair;
+  for (ui::Button* batch : {&tools.id3ToFn, &tools.fixSyntax, &tools.removeString, &tools.removeTrackNumber,
+                            &tools.removeYearNumber, &tools.replaceArtistTitle, &tools.undoName})
+    batch->setEnabled(selected);
+  tools.fnToId3.setEnabled(writes && (songsView ? form1.List2.SelCount() > 0 : selected));
+  tools.rename.setEnabled(musicView && hasCurrentRow);
+  tools.renameFiles.setVisible(songsView);
+  tools.renameFiles.setEnabled(form1.List2.SelCount() > 0);
+  tools.deleteFiles.setEnabled(form1.List4.SelCount() > 0);
 }
 
 }  // namespace velmora::app

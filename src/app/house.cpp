@@ -6,6 +6,17 @@
 
 namespace velmora::app {
 
+namespace {
+
+/// A file that comes with the program: the user's own in the program folder, else the shipped one.
+Text shippedFile(platform::Files& files, const Folders& folders, TextView name) {
+  const Text own = core::paths::join(folders.program, name);
+  const Text shipped = core::paths::join(folders.shipped, name);
+  return !files.fileExists(own) && files.fileExists(shipped) ? shipped : own;
+}
+
+}  // namespace
+
 House::House(const Services& given, Folders where)
     : services(given),
       folders(std::move(where)),
@@ -18,6 +29,12 @@ House::House(const Services& given, Folders where)
       modal(windows, services.desktop, work),
       tagCache(table, services.files),
       panel(table, services.files, tagCache, windows.form1),
+      player({.table = table,
+              .media = services.media,
+              .desktop = services.desktop,
+              .panel = panel,
+              .form1 = windows.form1,
+              .privateWav = shippedFile(services.files, folders, u"private.wav")}),
       busyFile(services.files, services.desktop, windows.form1.statusLabel),
       tagWriter({.table = table,
                  .files = services.files,
@@ -63,6 +80,19 @@ House::House(const Services& given, Folders where)
                   .progress = progress,
                   .closing = closing}),
       completion(table, windows.form1),
+      repair({.services = services,
+              .windows = windows,
+              .table = table,
+              .settings = settings,
+              .data = data,
+              .progress = progress,
+              .closing = closing,
+              .player = player,
+              .panel = panel,
+              .busyFile = busyFile,
+              .tagWriter = tagWriter,
+              .journal = journal,
+              .artists = artists}),
       loader(table, settings, data, windows.form1),
       processing(table, settings, services.files, windows.form1),
       base(table, settings, services.dialogs, windows.form3, events),

@@ -7,6 +7,7 @@
 #include "app/front_window.h"
 #include "app/modal_wait.h"
 #include "app/processing_window.h"
+#include "app/repair_room.h"
 #include "app/services.h"
 #include "app/table_loader.h"
 #include "app/work.h"
@@ -19,7 +20,7 @@
 #include "list/list_views.h"
 #include "list/other_files.h"
 #include "names/dash_finder.h"
-#include "player/hand_over.h"
+#include "player/preview_player.h"
 #include "review/artist_book.h"
 #include "review/undo_journal.h"
 #include "tags/busy_file.h"
@@ -62,9 +63,9 @@ struct House {
   ModalWait modal;
 
   // The commands.
-  player::NoFileHolder player;
   tags::TagCache tagCache;
   tags::FilePanel panel;
+  player::PreviewPlayer player;
   tags::BusyFile busyFile;
   tags::TagWriter tagWriter;
   review::UndoJournal journal;
@@ -75,6 +76,7 @@ struct House {
   list::ListViews listViews;
   list::OtherFiles otherFiles;
   list::ArtistCompletion completion;
+  RepairRoom repair;
 
   // Starting, ending and changing windows.
   TableLoader loader;

@@ -3,6 +3,7 @@
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/media_player.h"
 #include "platform/text.h"
 #include "platform/trash.h"
 
@@ -14,6 +15,7 @@ struct Services {
   platform::Trash& trash;
   platform::Dialogs& dialogs;
   platform::Desktop& desktop;
+  platform::MediaPlayer& media;
 };
 
 /// Where the program keeps its state, and where its shipped files lie when they are not there.

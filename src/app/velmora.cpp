@@ -26,6 +26,7 @@ Velmora::Velmora(const Services& services, Folders folders)
   house_->onEnd = [this] { raise(onEnd); };
   house_->work.onCommandDone = [this] { commandDone(*house_); };
   wireForm1(*house_);
+  wireRepair(*house_);
   wireForm3(*house_);
   wireForm8(*house_);
   wireOptions(*house_);

@@ -7,17 +7,6 @@ namespace velmora::app {
 
 namespace {
 
-/// The boxes of the panel go into the tags of the current row, as one step that can be undone. The progress
-/// window keeps clicks on other rows away, which would change the boxes, and gives a busy file its Stop.
-void update(House& house) {
-  house.closing.run([&house] {
-    house.progress.show(u"Update ID3 Tags ...");
-    house.journal.appendUndoMarker("st1");
-    house.tagWriter.UpdateTags();
-    house.data.SaveID3nizove(house.table);
-  });
-}
-
 void closeRequested(House& house) {
   // A window in front of this one is answered first; a command is stopped, and the window closes behind it.
   if (house.modal.open()) return house.modal.remind();
@@ -27,13 +16,14 @@ void closeRequested(House& house) {
 void wireLists(House& house) {
   ui::Form1& form1 = house.windows.form1;
   form1.List4.onClick = [&house] {
+    if (house.table.puniliste == 1) return;
+    enableCommands(house);  // first, since it settles which tag boxes the click may fill
     house.listViews.List4Click();
     enableCommands(house);
   };
   form1.List1.onClick = [&house] { house.listViews.List1Click(); };
   form1.List3.onClick = [&house] { house.completion.List3Click(); };
   form1.Text1.onChange = [&house] { house.completion.boxChanged(); };
-  form1.Text1.onKey = [&house](ui::KeyPress press) { return house.completion.nameBoxKey(press); };
   form1.Text8.onChange = [&house] { house.completion.boxChanged(); };
   form1.tags.viewID3v1.onClick = [&house] { house.panel.showTags(); };
   form1.tags.viewID3v2.onClick = [&house] { house.panel.showTags(); };
@@ -60,7 +50,6 @@ void wireForm1(House& house) {
     house.otherFiles.open();
     house.modal.run(house.windows.form8);
   });
-  form1.update.onClick = command(house, form1, [&house] { update(house); });
   form1.assort.onClick = command(house, form1, [&house] { house.front.assort(); });
   form1.options.onClick = opens(house, form1, house.windows.form5);
   form1.fixOptions.onClick = opens(house, form1, house.windows.dialog2);
@@ -73,7 +62,10 @@ void wireForm1(House& house) {
     house.journal.appendUndoRecord("id3", core::number(std::int64_t{row}), rowSnapshot);
   };
   house.busyFile.givenUp = [&house] { return house.table.Stop || house.ending; };
-  house.listMaker.onCleared = [&house] { house.player.close(); };
+  house.listMaker.onCleared = [&house] {
+    house.player.close();
+    house.repair.undoCommands.showState();
+  };
 }
 
 }  // namespace velmora::app

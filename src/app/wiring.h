@@ -13,6 +13,8 @@ struct House;
 // One function per window binds its controls to the commands, so that the wiring of a window can be read on a
 // page.
 void wireForm1(House& house);
+/// The player, the batches, Delete and the undo commands of the Processing Window.
+void wireRepair(House& house);
 void wireForm3(House& house);
 void wireForm8(House& house);
 /// Form5, Form6, Form7 and Dialog2.

@@ -98,6 +98,8 @@ TEST_F(WiringTest, CommandsAreOfferedWhenTheyCanAct) {
   EXPECT_TRUE(form1.assort.enabled());
   EXPECT_FALSE(form1.update.enabled());
   form1.List4.select({0}, 0);
+  EXPECT_FALSE(form1.update.enabled()) << "neither tag is to be written";
+  form1.tags.writeID3v2.click();
   EXPECT_TRUE(form1.update.enabled());
 }
 

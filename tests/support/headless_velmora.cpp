@@ -3,7 +3,7 @@
 namespace velmora::test {
 
 HeadlessVelmora::HeadlessVelmora()
-    : trash(files, folder.path(u"trash")), settings(files, folder.path(u"program/Settings.ini")) {
+    : trash(faults, folder.path(u"trash")), settings(files, folder.path(u"program/Settings.ini")) {
   folder.mkdir(u"program");
   folder.mkdir(u"music");
   settings.set(u"showtipsasstartup", u"False");
@@ -15,7 +15,7 @@ HeadlessVelmora::~HeadlessVelmora() = default;
 void HeadlessVelmora::build() {
   app_.reset();
   app_ = std::make_unique<app::Velmora>(
-      app::Services{.files = files, .trash = trash, .dialogs = dialogs, .desktop = desktop},
+      app::Services{.files = faults, .trash = trash, .dialogs = dialogs, .desktop = desktop, .media = media},
       app::Folders{.program = programFolder(), .shipped = folder.path(u"shipped")});
   app_->onEnd = [this] { ++ends; };
 }

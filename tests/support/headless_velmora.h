@@ -6,6 +6,8 @@
 #include "core/settings.h"
 #include "system/desktop_trash.h"
 #include "system/posix_files.h"
+#include "tests/support/fake_media_player.h"
+#include "tests/support/fault_files.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/scripted_dialogs.h"
 #include "tests/support/temp_folder.h"
@@ -22,9 +24,11 @@ class HeadlessVelmora {
 
   TempFolder folder;
   system::PosixFiles files;
+  FaultFiles faults{files};  ///< what the program and its trash see of the file system
   system::DesktopTrash trash;
   ScriptedDialogs dialogs;
   ScriptedDesktop desktop;
+  FakeMediaPlayer media;
   core::Settings settings;  ///< the program's own, read and written afresh at each call
   int ends = 0;             ///< how often the program said that it has ended
 

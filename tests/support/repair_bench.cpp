@@ -1,0 +1,109 @@
+#include "tests/support/repair_bench.h"
+
+#include <algorithm>
+
+#include "core/paths.h"
+#include "core/text.h"
+#include "review/undo_journal.h"
+#include "tags/id3v1.h"
+#include "tags/id3v2.h"
+
+namespace velmora::test {
+
+namespace {
+
+bool given(const SongTags& tags) {
+  return !tags.title.empty() || !tags.artist.empty();
+}
+
+std::string joined(std::initializer_list<TextView> texts) {
+  std::string all;
+  for (const TextView text : texts) all += core::toBytes(text) + '|';
+  all.pop_back();
+  return all;
+}
+
+}  // namespace
+
+void RepairBench::add(const std::vector<Song>& songs) {
+  for (const Song& song : songs) {
+    Bytes bytes;
+    if (given(song.second)) bytes += Id3v2Maker().values(song.second).padding(300).bytes();
+    bytes += mpegFrames();
+    if (given(song.first)) bytes += id3v1Tag(song.first);
+    program.song(u"in/" + song.name + u".mp3", bytes);
+  }
+  program.startInProcessingWindow();
+  program.addFolder(program.folder.path(u"music/in"));
+  ASSERT_EQ(program.table().brojfajlova(), static_cast<int>(songs.size()));
+}
+
+void RepairBench::select(const std::vector<Text>& names) {
+  std::vector<int> indexes;
+  for (const Text& name : names) indexes.push_back(rowOf(name) - 1);
+  std::ranges::sort(indexes);
+  form1().List4.select(indexes, indexes.empty() ? -1 : indexes.back());
+}
+
+void RepairBench::selectAll() {
+  std::vector<int> indexes;
+  for (int index = 0; index < form1().List4.ListCount(); ++index) indexes.push_back(index);
+  form1().List4.select(indexes, 0);
+}
+
+void RepairBench::click(ui::Button& button) {
+  EXPECT_TRUE(button.enabled());
+  button.click();
+  EXPECT_TRUE(form1().enabled());
+  EXPECT_FALSE(program.windows().dialog1.visible());
+}
+
+std::vector<std::string> RepairBench::names() const {
+  std::vector<std::string> names;
+  for (const auto& entry :
+       const_cast<system::PosixFiles&>(program.files).list(program.folder.path(u"music/in")).entries)
+    names.push_back(core::toBytes(core::dropRight(entry.name, 4)));
+  std::ranges::sort(names);
+  return names;
+}
+
+std::vector<std::string> RepairBench::listed() {
+  std::vector<std::string> names;
+  for (int row = 1; row <= program.table().brojfajlova(); ++row) {
+    EXPECT_EQ(form1().List4.List(row - 1), program.table().path(row));
+    names.push_back(core::toBytes(core::paths::bareName(program.table().path(row))));
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+int RepairBench::rowOf(TextView name) {
+  for (int row = 1; row <= program.table().rows(); ++row)
+    if (core::paths::bareName(program.table().path(row)) == name) return row;
+  ADD_FAILURE() << "not in the list: " << core::toBytes(name);
+  return 0;
+}
+
+std::string RepairBench::first(TextView name) {
+  tags::cMP3ID3v1 tag(program.files);
+  tag.setMP3File(pathOf(name));
+  if (!tag.HasID3v1Tag()) return "none";
+  return joined({tag.Artist, tag.Title, tag.Album, tag.Year}) + '|' + std::to_string(tag.Track);
+}
+
+std::string RepairBench::second(TextView name) {
+  tags::cMP3ID3v2 tag(program.files);
+  tag.setMP3File(pathOf(name));
+  if (!tag.HasID3v2Tag()) return "none";
+  return joined({tag.Artist(), tag.Title(), tag.Album(), tag.Year(), tag.Track()});
+}
+
+std::vector<std::string> RepairBench::kinds() const {
+  auto& files = const_cast<system::PosixFiles&>(program.files);
+  const review::UndoJournal journal(files, program.settings, program.folder.path(u"program/UndoData.txt"));
+  std::vector<std::string> kinds;
+  for (const Text& record : journal.readRecords()) kinds.push_back(core::toBytes(record.substr(0, 3)));
+  return kinds;
+}
+
+}  // namespace velmora::test
