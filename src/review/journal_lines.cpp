@@ -12,8 +12,8 @@ constexpr std::uint64_t blockBytes = 65536;
 // What stands between two records, as far as it tells them apart: a line may end with LF alone.
 constexpr BytesView boundary = "\n\"";
 
-/// The text between the quotes of one chunk, line end included; nothing when the chunk is torn. Rubbish behind
-/// the record is left out.
+/// The text between the quotes of one chunk, line end included; nothing when the chunk is torn. Rubbish
+/// behind the record is left out.
 std::optional<BytesView> recordOf(BytesView chunk) {
   if (const std::size_t end = chunk.rfind("\"\r\n"); end != BytesView::npos && end > 0)
     chunk = chunk.substr(0, end + 1);

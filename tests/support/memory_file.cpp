@@ -19,7 +19,7 @@ void MemoryFile::writeAt(std::uint64_t offset, BytesView bytes) {
 }
 
 void MemoryFile::cutTo(std::uint64_t bytes) {
-  if (bytes < content.size()) content.resize(static_cast<std::size_t>(bytes));
+  if (bytes < content_->size()) content_->resize(static_cast<std::size_t>(bytes));
 }
 
 }  // namespace velmora::test
