@@ -6,13 +6,14 @@ namespace velmora::system {
 
 /// The folder that holds the whole state, chosen once at start and made at first use: $VELMORA_HOME if set;
 /// else the folder of the executable when it holds Settings.ini or a file `portable`; else
-/// $XDG_DATA_HOME/velmora, by default ~/.local/share/velmora.
+/// $XDG_DATA_HOME/velmora, by default ~/.local/share/velmora. Throws FileError when it cannot be made.
 Text programFolder();
 /// The folder of the shipped files: `../share/velmora` seen from the executable, or the source tree's
 /// `resources` in a build that was not installed.
 Text shippedFolder();
 
-/// Held while the program runs; the system lets go of it however the program ends.
+/// A lock on the file velmora.lock, held while the program runs; the system lets go of it however the program
+/// ends.
 class InstanceLock {
  public:
   explicit InstanceLock(const Text& programFolder);
