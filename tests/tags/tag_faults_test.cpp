@@ -10,6 +10,7 @@
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
 #include "tags/tag_removal.h"
+#include "tags/update_tags.h"
 #include "tests/support/fault_files.h"
 #include "tests/support/file_errors.h"
 #include "tests/support/scripted_desktop.h"
@@ -87,6 +88,46 @@ TEST_F(TagFaults, RemovingTags) {
                  [&](platform::Files& with, const Text& path) { SkiniID3v2(with, desktop, player, path); });
   survivesFaults(audio + test::id3v1Tag({}),
                  [&](platform::Files& with, const Text& path) { SkiniID3v1(with, desktop, player, path); });
+}
+
+TEST_F(TagFaults, UpdateTagsKeepsTheFramesThatThePanelDoesNotShow) {
+  const Bytes before = test::Id3v2Maker().text("TCOM", u"Composer").padding(500).plainBytes() + audio +
+                       test::id3v1Tag({}, 5, u"kept");
+  const Text path = folder.write(u"song.mp3", before);
+  for (int nth = 1;; ++nth) {
+    SCOPED_TRACE(nth);
+    folder.write(u"song.mp3", before);
+    core::TrackTable rows;
+    rows.appendPath(path);
+    rows.resizeColumns();
+    test::FaultFiles faults(files);
+    test::ScriptedDesktop desktop;
+    player::NoFileHolder player;
+    ui::Form1 form1;
+    TagCache cache(rows, faults);
+    FilePanel panel(rows, faults, cache, form1);
+    BusyFile busyFile(faults, desktop, form1.statusLabel);
+    TagWriter writer({rows, faults, ignoring, desktop, player, busyFile, panel, form1});
+    panel.info(path, 1);
+    form1.tags.title.setText(u"New");
+    form1.tags.writeID3v1.setChecked(true);
+    form1.tags.writeID3v2.setChecked(true);
+
+    faults.failAt(nth);
+    writer.UpdateTags();
+    cMP3ID3v1 first(files);
+    first.setMP3File(path);
+    EXPECT_EQ(first.Comment, u"kept");
+    cMP3ID3v2 second(files);
+    second.setMP3File(path);
+    EXPECT_EQ(second.Composer(), u"Composer");
+    EXPECT_EQ(folder.read(u"song.mp3").size(), before.size());
+    if (!faults.hasFailed()) {
+      EXPECT_EQ(first.Title, u"New");
+      EXPECT_EQ(second.Title(), u"New");
+      break;
+    }
+  }
 }
 
 TEST_F(TagFaults, ADiskThatGetsFullLeavesTheSongWhole) {
