@@ -213,18 +213,6 @@ TEST_F(ID3v2Read, ASizeBeyondTheTagEndsReadingAndKeepsWhatCameBefore) {
   EXPECT_EQ(tag.Artist(), u"");
 }
 
-TEST_F(ID3v2Read, DamagedSongsAreReadWithoutHarm) {
-  for (const auto& song : test::damagedSongs()) {
-    SCOPED_TRACE(song.damage);
-    test::MemoryFile file(song.bytes);
-    SongBytes bytes(file);
-    cMP3ID3v2 tag(files);
-    EXPECT_NO_THROW(tag.read(bytes, u"song.mp3"));
-    EXPECT_EQ(file.content(), song.bytes);
-    EXPECT_LE(file.bytesRead, 3 * song.bytes.size() + 64 * 1024);
-  }
-}
-
 TEST(FrameTable, KeepsIdentifiersInOrderOfFirstAppearance) {
   FrameTable frames;
   frames.add("TIT2", "a");

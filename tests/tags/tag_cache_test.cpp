@@ -4,8 +4,6 @@
 #include <sys/stat.h>
 
 #include "core/text.h"
-#include "tags/id3v1.h"
-#include "tags/id3v2.h"
 #include "tests/support/memory_file.h"
 #include "tests/tags/tag_fixture.h"
 
@@ -95,28 +93,6 @@ TEST_F(Cache, WhatCannotBeReadLeavesTheColumnsAsTheyWere) {
     EXPECT_TRUE(table.track(row).imaid3v1.isNothing());
   }
   EXPECT_FALSE(cache.read(folder.path(u"missing.mp3"), 99)) << "a row that is not there does no harm";
-}
-
-TEST_F(Cache, AgreesWithTheTagClassesOnDamagedSongs) {
-  for (const auto& song : test::damagedSongs()) {
-    SCOPED_TRACE(song.damage);
-    table.appendPath(u"song.mp3");
-    table.resizeColumns();
-    test::MemoryFile file(song.bytes);
-    SongBytes bytes(file);
-    EXPECT_EQ(cache.read(bytes, table.rows()), !song.bytes.empty());
-    const core::Track& track = table.track(table.rows());
-    cMP3ID3v1 first(files);
-    first.read(bytes, u"song.mp3");
-    cMP3ID3v2 second(files);
-    second.read(bytes, u"song.mp3");
-    EXPECT_EQ(track.imaid3v1.isTrue(), first.HasID3v1Tag());
-    EXPECT_EQ(track.pesmaid3v1.text(), first.Title);
-    EXPECT_EQ(track.imaid3v2.isTrue(), second.HasID3v2Tag());
-    EXPECT_EQ(track.pesmaid3v2.text(), second.Title());
-    EXPECT_EQ(track.pevacID3v2.text(), second.Artist());
-    EXPECT_EQ(track.vrstaid3v2.text(), second.OtherGenreName());
-  }
 }
 
 TEST_F(Cache, ReadsLittleOfAFile) {
