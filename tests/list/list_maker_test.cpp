@@ -4,6 +4,7 @@
 
 #include "core/text.h"
 #include "list/display_limit.h"
+#include "names/grammar.h"
 #include "tests/list/list_world.h"
 
 namespace velmora::list {
@@ -185,6 +186,61 @@ TEST_F(ListMakerTest, StopLeavesWhatWasFoundWholeAndSaved) {
   EXPECT_EQ(tail(), Texts{tailSong}) << "a list of the base that was cut short is not kept";
   expectSaved();
   expectAtRest();
+}
+
+/// A user who says yes to whatever comes.
+struct Consenting final : platform::Dialogs {
+  Answer message(const Text&, const Text&, platform::Buttons, platform::Icon) override { return Answer::Ok; }
+  std::optional<Text> input(const Text&, const Text&, const Text&) override { return {}; }
+  std::optional<Text> pickFolder(const Text&, const Text&) override { return {}; }
+};
+
+TEST_F(ListMakerTest, AFailureAtAnyFileOperationLeavesWholeRowsAndUsableWindows) {
+  Consenting consenting;
+  ListMaker told({.table = table,
+                  .settings = settings,
+                  .data = data,
+                  .files = files,
+                  .dialogs = consenting,
+                  .desktop = desktop,
+                  .windows = windows,
+                  .progress = progress,
+                  .closing = closing,
+                  .journal = journal,
+                  .artists = artists,
+                  .dashes = dashes,
+                  .panel = panel});
+  useBase();
+  song(u"base/Rock/KO-RA/Ko - Ra - x.mp3");
+  song(u"music/a.mp3");
+  song(u"music/sub/Ko-Ra - b.mp3");
+  folder.write(u"music/sub/c.txt", "");
+  form1.folderTree.setPath(folder.path(u"music"));
+  for (const bool lasting : {false, true}) {
+    bool failed = true;
+    // The list is made by the first operations; behind them the saves follow, which are all alike.
+    for (int nth = 1; failed; nth += nth < 20 ? 1 : 9) {
+      SCOPED_TRACE(nth);
+      lasting ? files.failFrom(nth) : files.failAt(nth);
+      told.add();
+      failed = files.hasFailed();
+      files.failNoMore();
+      expectAtRest();
+      ASSERT_LE(table.brojfajlova(), table.rows());
+      for (int row = 1; row <= table.brojfajlova(); ++row) {
+        const Text pesma = table.track(row).pesma.text();
+        names::PevacIPesma(table, row);
+        EXPECT_EQ(table.track(row).pesma.text(), pesma);
+      }
+      core::TrackTable loaded;
+      data.readNames(loaded);
+      data.readTags(loaded);
+      if (!failed) {
+        EXPECT_EQ(loaded.brojfajlova(), 2);
+      }
+      told.newList();
+    }
+  }
 }
 
 TEST_F(ListMakerTest, BeyondTheDisplayLimitRowsAreKeptButNotShown) {

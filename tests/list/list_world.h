@@ -10,6 +10,7 @@
 #include "list/other_files.h"
 #include "platform/file_error.h"
 #include "system/posix_files.h"
+#include "tests/support/fault_files.h"
 #include "tests/support/mp3_maker.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/scripted_dialogs.h"
@@ -51,7 +52,8 @@ struct HeldByPlayer final : player::FileHolder {
 /// "music", the base under "base".
 struct ListWorld : testing::Test {
   TempFolder folder;
-  system::PosixFiles files;
+  system::PosixFiles disk;
+  FaultFiles files{disk};
   ListTrash trash{files};
   HeldByPlayer player;
   ScriptedDialogs dialogs;
