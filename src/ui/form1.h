@@ -10,7 +10,11 @@ namespace velmora::ui {
 
 /// The two groups of tag values and where a write of them goes.
 struct TagPanel {
-  TagPanel() { OptionButton::makeGroup({&viewID3v1, &viewID3v2}); }
+  TagPanel() {
+    OptionButton::makeGroup({&viewID3v1, &viewID3v2});
+    viewID3v1.setEnabled(false);
+    viewID3v2.setEnabled(false);
+  }
 
   OptionButton viewID3v1;  ///< "ID3v1": the boxes show the values of this tag
   OptionButton viewID3v2;  ///< "ID3v2"

@@ -15,6 +15,7 @@ const Text& ListBox::List(int index) const {
 void ListBox::setList(int index, Text text) {
   if (!valid(index)) return;
   rows_[static_cast<std::size_t>(index)].text = std::move(text);
+  splice(index, 1, 1);
   changed();
 }
 
@@ -41,6 +42,7 @@ void ListBox::insertItem(int index, Text text, int data) {
   index = std::clamp(index, 0, ListCount());
   rows_.insert(rows_.begin() + index, Row{std::move(text), data, false});
   if (listIndex_ >= index) ++listIndex_;
+  splice(index, 0, 1);
   changed();
 }
 
@@ -51,7 +53,22 @@ void ListBox::RemoveItem(int index) {
   if (listIndex_ > index) --listIndex_;
   if (listIndex_ >= ListCount()) listIndex_ = ListCount() - 1;
   topIndex_ = std::clamp(topIndex_, 0, std::max(ListCount() - 1, 0));
+  splice(index, 1, 0);
   changed();
+}
+
+void ListBox::splice(int first, int removed, int inserted) {
+  if (splice_.empty()) {
+    splice_ = {first, removed, inserted};
+    return;
+  }
+  // The joined change covers the hull of both; the rows between them count as replaced by themselves.
+  const int oldEnd = splice_.first + splice_.inserted;
+  const int hullFirst = std::min(splice_.first, first);
+  const int hullEnd = std::max(oldEnd, first + removed);
+  splice_.removed += (splice_.first - hullFirst) + (hullEnd - oldEnd);
+  splice_.inserted = hullEnd - hullFirst - removed + inserted;
+  splice_.first = hullFirst;
 }
 
 void ListBox::Clear() {
@@ -60,6 +77,7 @@ void ListBox::Clear() {
 }
 
 void ListBox::fill(std::vector<Text> texts) {
+  splice(0, ListCount(), static_cast<int>(texts.size()));
   rows_.clear();
   rows_.reserve(texts.size());
   for (Text& text : texts) rows_.push_back(Row{std::move(text), 0, false});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "platform/text.h"
@@ -61,6 +62,19 @@ class ListBox : public Control {
   void setTopIndex(int index);
 
   Selection selection() const { return selection_; }
+
+  /// What happened to the rows since the view last asked: `removed` rows from `first` on gave way to
+  /// `inserted` others, and the rows around them stayed as they were.
+  struct Splice {
+    int first = 0;
+    int removed = 0;
+    int inserted = 0;
+    bool empty() const { return removed == 0 && inserted == 0; }
+  };
+  /// For the view alone: any number of changes, joined to one.
+  const Splice& pendingSplice() const { return splice_; }
+  Splice takeSplice() { return std::exchange(splice_, {}); }
+
   void doubleClick() {
     if (enabled() && onDoubleClick) onDoubleClick();
   }
@@ -77,6 +91,9 @@ class ListBox : public Control {
   void clicked() {
     if (onClick) onClick();
   }
+  /// `removed` rows from `first` on gave way to `inserted` others: joins that to what the view has yet to
+  /// hear.
+  void splice(int first, int removed, int inserted);
 
   Selection selection_;
   bool sorted_;
@@ -84,6 +101,7 @@ class ListBox : public Control {
   int selCount_ = 0;
   int listIndex_ = -1;
   int topIndex_ = 0;
+  Splice splice_;
 };
 
 }  // namespace velmora::ui
