@@ -1,0 +1,28 @@
+#include <QLabel>
+
+#include "qt/bind.h"
+#include "qt/text.h"
+
+namespace velmora::qt {
+
+void bindControl(Refresher& refresher, ui::Control& model, QWidget* widget) {
+  refresher.watch(model, widget, [&model, widget, focusRequests = model.focusRequests()]() mutable {
+    widget->setEnabled(model.enabled());
+    if (widget->isHidden() == model.visible()) widget->setVisible(model.visible());
+    if (focusRequests != model.focusRequests()) widget->setFocus(Qt::OtherFocusReason);
+    focusRequests = model.focusRequests();
+  });
+}
+
+void bindLabel(Refresher& refresher, ui::Label& model, QLabel* widget, const QString& whenEmpty) {
+  widget->setTextFormat(Qt::PlainText);
+  bindControl(refresher, model, widget);
+  refresher.watch(model, widget, [&model, widget, whenEmpty] {
+    const bool empty = model.text().empty();
+    if (!whenEmpty.isEmpty())
+      widget->setForegroundRole(empty ? QPalette::PlaceholderText : QPalette::WindowText);
+    widget->setText(empty ? whenEmpty : shown(model.text()).trimmed());
+  });
+}
+
+}  // namespace velmora::qt

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+
+#include <QListView>
+
+namespace velmora::qt {
+
+/// What a list shows while it has no rows.
+struct EmptyState {
+  QString title;
+  QString hint;
+};
+
+/// A list of equal rows that draws a hint while it is empty, and lets its binding act after each event rather
+/// than from within the toolkit's own handling of it.
+class ListView : public QListView {
+  Q_OBJECT
+
+ public:
+  explicit ListView(QWidget* parent = nullptr);
+
+  /// Asked at each painting of the empty list.
+  std::function<EmptyState()> emptyState;
+  /// Offered each key first; true when it was used up.
+  std::function<bool(const QKeyEvent&)> onKey;
+  /// After each mouse or key event that the list handled, and after it was shown.
+  std::function<void()> afterEvent;
+  /// While this is true a new current row is not scrolled to.
+  bool keepPlace = false;
+
+  /// First row in sight; 0 for an empty list.
+  int topRow() const;
+  void setTopRow(int row);
+
+  QSize sizeHint() const override { return {240, 200}; }
+  QSize minimumSizeHint() const override { return {160, 96}; }
+
+ protected:
+  bool event(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+ private:
+  int rowHeight() const;
+};
+
+}  // namespace velmora::qt

@@ -1,0 +1,68 @@
+#include "qt/program.h"
+
+#include <QApplication>
+
+#include "qt/end_signals.h"
+#include "qt/icons.h"
+#include "qt/qt_desktop.h"
+#include "qt/qt_dialogs.h"
+#include "qt/qt_media_player.h"
+#include "qt/theme.h"
+#include "qt/views.h"
+#include "system/desktop_trash.h"
+#include "system/posix_files.h"
+#include "system/program_folder.h"
+
+namespace velmora::qt {
+
+/// In the order in which they need each other; they go in the opposite order, views first.
+struct Program::Machine {
+  app::Folders folders{system::programFolder(), system::shippedFolder()};
+  system::InstanceLock lock{folders.program};
+  system::PosixFiles files;
+  system::DesktopTrash trash{files, system::DesktopTrash::defaultHomeTrash()};
+  Refresher refresher;
+  InputGate gate{refresher};
+  QtDialogs dialogs{refresher};
+  QtDesktop desktop{lock};
+  QtMediaPlayer media;
+  app::Velmora velmora{{files, trash, dialogs, desktop, media}, folders};
+  Views views{velmora.windows(), {refresher, gate}};
+  EndSignals endSignals{[this] {
+    dialogs.dismiss();
+    velmora.requestEnd();
+  }};
+};
+
+Program::Program() : machine_(std::make_unique<Machine>()) {}
+
+Program::~Program() = default;
+
+void Program::prepare(QApplication& application) {
+  QApplication::setApplicationName("velmora");
+  QApplication::setApplicationVersion(VELMORA_VERSION);
+  QApplication::setDesktopFileName("velmora");
+  QApplication::setQuitOnLastWindowClosed(false);  // the program knows its end itself
+  applyTheme(application);
+  QApplication::setWindowIcon(programIcon());
+}
+
+int Program::run() {
+  // Not quit(), which would ask the windows first.
+  machine_->velmora.onEnd = [] { QCoreApplication::exit(0); };
+  QMetaObject::invokeMethod(
+      qApp, [this] { machine_->velmora.start(); }, Qt::QueuedConnection);
+  return QApplication::exec();
+}
+
+app::Velmora& Program::velmora() {
+  return machine_->velmora;
+}
+
+int runProgram(int argc, char** argv) {
+  QApplication application(argc, argv);
+  Program::prepare(application);
+  return Program().run();
+}
+
+}  // namespace velmora::qt
