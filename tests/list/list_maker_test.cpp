@@ -197,7 +197,19 @@ struct Consenting final : platform::Dialogs {
 
 TEST_F(ListMakerTest, AFailureAtAnyFileOperationLeavesWholeRowsAndUsableWindows) {
   Consenting consenting;
-  ListMaker told(makerParts(consenting));
+  ListMaker told({.table = table,
+                  .settings = settings,
+                  .data = data,
+                  .files = files,
+                  .dialogs = consenting,
+                  .desktop = desktop,
+                  .windows = windows,
+                  .progress = progress,
+                  .closing = closing,
+                  .journal = journal,
+                  .artists = artists,
+                  .dashes = dashes,
+                  .panel = panel});
   useBase();
   song(u"base/Rock/KO-RA/Ko - Ra - x.mp3");
   song(u"music/a.mp3");
@@ -243,6 +255,13 @@ TEST_F(ListMakerTest, BeyondTheDisplayLimitRowsAreKeptButNotShown) {
   add(u"music");
   EXPECT_EQ(table.rows(), 32738);
   EXPECT_EQ(form1.List4.ListCount(), 32736);
+}
+
+TEST_F(ListMakerTest, ADamagedCountTakesInNoRowsThatAreNotThere) {
+  table.setBrojfajlova(12);
+  const Text a = song(u"music/a.mp3");
+  add(u"music");
+  EXPECT_EQ(working(), Texts{a});
 }
 
 TEST_F(ListMakerTest, AddRunsArtistListWhenThatIsTheReview) {

@@ -70,7 +70,19 @@ struct ListWorld : testing::Test {
   review::UndoJournal journal{files, settings, folder.path(u"UndoData.txt")};
   review::ArtistBook artists{table, data, windows.form1};
   names::DashFinder dashes{table, artists, cache};
-  list::ListMaker maker{makerParts(dialogs)};
+  list::ListMaker maker{{.table = table,
+                         .settings = settings,
+                         .data = data,
+                         .files = files,
+                         .dialogs = dialogs,
+                         .desktop = desktop,
+                         .windows = windows,
+                         .progress = progress,
+                         .closing = closing,
+                         .journal = journal,
+                         .artists = artists,
+                         .dashes = dashes,
+                         .panel = panel}};
   list::ListViews views{{.table = table,
                          .data = data,
                          .files = files,
@@ -102,10 +114,6 @@ struct ListWorld : testing::Test {
     form1.ostali.onClick = [this] { views.showOtherFiles(); };
   }
 
-  list::ListMaker::Parts makerParts(platform::Dialogs& told) {
-    return {table,    settings, data,    files,   told,   desktop, windows,
-            progress, closing,  journal, artists, dashes, panel};
-  }
   Text song(TextView name, const SongTags& tags = {}) {
     return folder.write(name, mpegFrames(2) + id3v1Tag(tags));
   }

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QTemporaryDir>
+
+#include "qt/tour/stage.h"
+#include "ui/windows.h"
+
+namespace velmora::qt {
+
+/// Many empty files with the names of songs, in a folder under `music` for as long as an object lives: enough
+/// for a command on them to take its time.
+class Crowd {
+ public:
+  explicit Crowd(const QString& music);
+  QString folder() const { return folder_.path(); }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+/// From the first start to a list of new music, and through all windows.
+void addFirstVisit(Stage& stage, ui::Windows& windows, const QString& music, const QString& crowd);
+/// The next start: everything is as it was left.
+void addReturn(Stage& stage, ui::Windows& windows);
+
+}  // namespace velmora::qt
