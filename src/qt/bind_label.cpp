@@ -8,7 +8,9 @@ namespace velmora::qt {
 void bindControl(Refresher& refresher, ui::Control& model, QWidget* widget) {
   refresher.watch(model, widget, [&model, widget, focusRequests = model.focusRequests()]() mutable {
     widget->setEnabled(model.enabled());
-    if (widget->isHidden() == model.visible()) widget->setVisible(model.visible());
+    // One that was not told to hide is shown along with its window, and must not open as a window before.
+    const bool hidden = widget->testAttribute(Qt::WA_WState_ExplicitShowHide) && widget->isHidden();
+    if (hidden == model.visible()) widget->setVisible(model.visible());
     if (focusRequests != model.focusRequests()) widget->setFocus(Qt::OtherFocusReason);
     focusRequests = model.focusRequests();
   });

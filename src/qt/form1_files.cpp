@@ -5,6 +5,8 @@
 #include "qt/grid.h"
 #include "qt/list_view.h"
 #include "qt/pane.h"
+#include "qt/player_bar.h"
+#include "qt/repair_view.h"
 
 namespace velmora::qt {
 
@@ -37,7 +39,13 @@ QWidget* makeFileListPane(Refresher& refresher, ui::Form1& form1, const ui::Form
   list->emptyState = [&form1] { return emptyList(form1); };
   bindList(refresher, form1.List4, list, Rows::Paths);
   focusUnderMouse(base.autoListFocus, list);
-  pane->setContent(list);
+  addFileMenu(refresher, form1, list);
+  auto* content = new QWidget;
+  QVBoxLayout* stack = column(content, 0);
+  stack->addWidget(list, 1);
+  stack->addWidget(line());
+  stack->addWidget(makePlayerBar(refresher, form1));
+  pane->setContent(content);
 
   auto* count = described(new QLabel, "Number of files", "Files in the list");
   bindLabel(refresher, form1.countLabel, count);

@@ -9,6 +9,7 @@
 #include "qt/form1_view.h"
 #include "qt/grid.h"
 #include "qt/pane.h"
+#include "qt/repair_view.h"
 
 namespace velmora::qt {
 
@@ -34,7 +35,7 @@ QLayout* makeNames(Refresher& refresher, ui::Form1& form1, QWidget* window) {
   new CompletionList(refresher, form1.List3, name, window);
   grid->addWidget(caption("F&ile name", name), 0, 0, 1, 2);
   grid->addWidget(name, 1, 0, 1, 2);
-  grid->setRowMinimumHeight(2, tight);
+  grid->addWidget(makeNameTools(refresher, form1.repair), 2, 0, 1, 2);
 
   // How the name is understood. The boxes are filled in from it, and cannot be typed in here.
   const auto part = [&](int place, const QString& text, const QString& tip, ui::TextBox& model) {
@@ -67,7 +68,7 @@ QLayout* makeFacts(Refresher& refresher, ui::Form1& form1) {
 
 }  // namespace
 
-QWidget* makeTagGroup(Refresher& refresher, ui::TagPanel& tags) {
+QWidget* makeTagGroup(Refresher& refresher, ui::TagPanel& tags, ui::FieldChecks& checks) {
   auto* group = new QWidget;
   auto* grid = new QGridLayout(group);
   grid->setContentsMargins(0, 0, 0, 0);
@@ -86,24 +87,24 @@ QWidget* makeTagGroup(Refresher& refresher, ui::TagPanel& tags) {
   grid->addLayout(head, 0, 0, 1, 4);
 
   const auto addBox = [&](int line, int place, int width, const QString& text, const QString& name,
-                          ui::TextBox& model) {
+                          ui::TextBox& model, ui::CheckBox& check) {
     auto* box = described(textField(), name, name + " in the tag");
     bindTextBox(refresher, model, box);
     QLabel* label = caption(text, box);
     grid->addWidget(label, line, place);
-    grid->addWidget(box, line, place + 1, 1, width);
+    grid->addWidget(withFieldCheck(refresher, check, box, name), line, place + 1, 1, width);
   };
-  addBox(1, 0, 3, "&Title", "Title", tags.title);
-  addBox(2, 0, 3, "A&rtist", "Artist", tags.artist);
-  addBox(3, 0, 3, "A&lbum", "Album", tags.album);
-  addBox(4, 0, 1, "&Year", "Year", tags.year);
-  addBox(4, 2, 1, "Trac&k", "Track", tags.track);
+  addBox(1, 0, 3, "&Title", "Title", tags.title, checks.title);
+  addBox(2, 0, 3, "A&rtist", "Artist", tags.artist, checks.artist);
+  addBox(3, 0, 3, "A&lbum", "Album", tags.album, checks.album);
+  addBox(4, 0, 1, "&Year", "Year", tags.year, checks.year);
+  addBox(4, 2, 1, "Trac&k", "Track", tags.track, checks.track);
   auto* genre = described(roomy(new QComboBox), "Genre", "Genre in the tag: one of the list, or any other");
   genre->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   genre->setMinimumContentsLength(12);
   bindComboBox(refresher, tags.genre, genre);
   grid->addWidget(caption("&Genre", genre), 5, 0);
-  grid->addWidget(genre, 5, 1, 1, 3);
+  grid->addWidget(withFieldCheck(refresher, checks.genre, genre, "Genre"), 5, 1, 1, 3);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
   return group;
@@ -119,7 +120,7 @@ QWidget* makeFilePanel(Refresher& refresher, ui::Form1& form1, QWidget* window) 
   layout->addLayout(makeNames(refresher, form1, window));
   layout->addLayout(makeFacts(refresher, form1));
   layout->addWidget(line());
-  layout->addWidget(makeTagGroup(refresher, form1.tags));
+  layout->addWidget(makeTagGroup(refresher, form1.tags, form1.fieldChecks));
   layout->addStretch(1);
 
   auto* scroll = new QScrollArea;  // for small screens and large fonts

@@ -7,6 +7,7 @@
 #include "qt/grid.h"
 #include "qt/icons.h"
 #include "qt/pane.h"
+#include "qt/repair_view.h"
 
 namespace velmora::qt {
 
@@ -65,6 +66,8 @@ Form1View::Form1View(const ViewContext& context, ui::Form1& form1, const ui::For
   panes->setStretchFactor(2, 2);
 
   QVBoxLayout* layout = column(this, 0);
+  layout->addWidget(makeRepairBar(refresher, form1));
+  layout->addWidget(line());
   layout->addWidget(panes, 1);
   layout->addWidget(makeBottomBar(refresher, form1));
   setWindowIcon(programIcon());

@@ -23,6 +23,6 @@ QWidget* makeFolderPane(Refresher& refresher, ui::Form1& form1);
 QWidget* makeFileListPane(Refresher& refresher, ui::Form1& form1, const ui::Form3& base);
 /// `window` is what the list of completions opens over.
 QWidget* makeFilePanel(Refresher& refresher, ui::Form1& form1, QWidget* window);
-QWidget* makeTagGroup(Refresher& refresher, ui::TagPanel& tags);
+QWidget* makeTagGroup(Refresher& refresher, ui::TagPanel& tags, ui::FieldChecks& checks);
 
 }  // namespace velmora::qt
