@@ -37,8 +37,9 @@ constexpr Command tagCommands[] = {
     {&Tools::id3ToFn, "FN <-- &ID3", "tags-to-name", "Update Filenames From ID3 Tags"},
 };
 constexpr Command deleteCommand = {&Tools::deleteFiles, "&Delete", "delete", "Move the files to the trash"};
-constexpr Command undoCommand = {&Tools::undoLastOperation, "&Undo last operation", "undo",
-                                 "Take back the last operation, on all files that it changed"};
+constexpr Command undoCommand = {
+    &Tools::undoLastOperation, "&Undo last operation", "undo",
+    "Take back the last operation, on all files that it changed (Ctrl+Z in the list)"};
 constexpr Command undoNameCommand = {&Tools::undoName, "Undo Na&me", "undo-name",
                                      "Give the files the names that they had before their last rename"};
 constexpr Command renameCommand = {&Tools::rename, "Rena&me", "rename",
@@ -74,7 +75,11 @@ QWidget* makeRepairBar(Refresher& refresher, ui::Form1& form1) {
   auto* bar = described(new QToolBar, "Commands on the selected files", {});
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setIconSize({4 * unit, 4 * unit});
-  const auto add = [&](const Command& command) { bar->addAction(action(refresher, tools, command, bar)); };
+  const auto add = [&](const Command& command) {
+    QAction* made = action(refresher, tools, command, bar);
+    bar->addAction(made);
+    bar->widgetForAction(made)->setAccessibleName(QString(command.caption).remove('&'));
+  };
 
   add(undoCommand);
   auto* more = described(new QToolButton, "More ways back", "More ways back");

@@ -141,6 +141,7 @@ void addFirstVisit(Stage& stage, ui::Windows& windows, const QString& music, con
   addList(stage, windows, music);
   addOtherFiles(stage, windows);
   addOptions(stage, windows);
+  addRepair(stage, windows);
   addBase(stage, windows, music);
 }
 

@@ -20,6 +20,8 @@ class Crowd {
 
 /// From the first start to a list of new music, and through all windows.
 void addFirstVisit(Stage& stage, ui::Windows& windows, const QString& music, const QString& crowd);
+/// Changes names and tags of several songs, takes all of it back, and plays one.
+void addRepair(Stage& stage, ui::Windows& windows);
 /// The next start: everything is as it was left.
 void addReturn(Stage& stage, ui::Windows& windows);
 
