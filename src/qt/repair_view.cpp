@@ -110,7 +110,7 @@ QWidget* makeNameTools(Refresher& refresher, ui::RepairTools& tools) {
   auto* widget = new QWidget;
   QHBoxLayout* layout = row(widget);
   layout->setContentsMargins(0, tight, 0, gap);
-  layout->addWidget(nameTool(refresher, tools.rename, "Rena&me", "rename", renameCommand.tip));
+  layout->addWidget(nameTool(refresher, tools.rename, "Rename", "rename", renameCommand.tip));
   layout->addWidget(nameTool(refresher, tools.renameFiles, "Rename File(s)", "rename",
                              "Rename the selected songs to the artist and title in the boxes"));
   layout->addWidget(nameTool(refresher, tools.undoName, "Undo Name", "undo-name", undoNameCommand.tip));
