@@ -61,7 +61,8 @@ void wireForm1(House& house) {
   house.tagWriter.onWritten = [&house](int row, const Text& rowSnapshot) {
     house.journal.appendUndoRecord("id3", core::number(std::int64_t{row}), rowSnapshot);
   };
-  house.busyFile.givenUp = [&house] { return house.table.Stop || house.ending; };
+  // Without a progress window there is no Stop button, and the mark is one of a command that is over.
+  house.busyFile.givenUp = [&house] { return (house.progress.shown() && house.table.Stop) || house.ending; };
   house.listMaker.onCleared = [&house] {
     house.player.close();
     house.repair.undoCommands.showState();
