@@ -60,7 +60,7 @@ FolderTree::FolderTree(QWidget* parent) : QTreeView(parent), model_(new QFileSys
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   header()->setStretchLastSection(false);
   setUniformRowHeights(true);
-  setAnimated(false);
+  setIndentation(4 * unit);
   setEditTriggers(NoEditTriggers);
   connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& folder) {
     if (folder == QDir::rootPath()) hideSystemFolders();

@@ -5,8 +5,8 @@
 #include "qt/grid.h"
 #include "qt/list_view.h"
 #include "qt/pane.h"
-#include "qt/player_bar.h"
 #include "qt/repair_view.h"
+#include "qt/segment.h"
 
 namespace velmora::qt {
 
@@ -26,9 +26,9 @@ QWidget* makeFileListPane(Refresher& refresher, ui::Form1& form1, const ui::Form
   bindLabel(refresher, form1.listTitle, title);
   pane->header()->addWidget(title, 1);
 
-  QPushButton* music = described(button("Show &Music Files"), "Show Music Files", "List the songs");
-  QPushButton* other = described(button("Show Oth&er Files"), "Show Other Files",
-                                 "List the files of these folders that are not music");
+  auto* music = described(new Segment("Show &Music Files"), "Show Music Files", "List the songs");
+  auto* other = described(new Segment("Show Oth&er Files"), "Show Other Files",
+                          "List the files of these folders that are not music");
   QWidget* view = joined({music, other});
   bindOptionButton(refresher, form1.muzickiFajlovi, music);
   bindOptionButton(refresher, form1.ostali, other);
@@ -40,12 +40,8 @@ QWidget* makeFileListPane(Refresher& refresher, ui::Form1& form1, const ui::Form
   bindList(refresher, form1.List4, list, Rows::Paths);
   focusUnderMouse(base.autoListFocus, list);
   addFileMenu(refresher, form1, list);
-  auto* content = new QWidget;
-  QVBoxLayout* stack = column(content, 0);
-  stack->addWidget(list, 1);
-  stack->addWidget(line());
-  stack->addWidget(makePlayerBar(refresher, form1));
-  pane->setContent(content);
+  pane->setContent(list);
+  list->setFocus();  // where the keyboard starts
 
   auto* count = described(new QLabel, "Number of files", "Files in the list");
   bindLabel(refresher, form1.countLabel, count);

@@ -1,5 +1,4 @@
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QScrollArea>
 
@@ -32,6 +31,7 @@ QLayout* makeNames(Refresher& refresher, ui::Form1& form1, QWidget* window) {
   grid->setVerticalSpacing(tight);
   auto* name = described(textField(), "File name", "Name of the selected file, without folder and extension");
   bindTextBox(refresher, form1.Text1, name);
+  QObject::connect(name, &QLineEdit::returnPressed, name, [&form1] { form1.repair.rename.click(); });
   new CompletionList(refresher, form1.List3, name, window);
   grid->addWidget(caption("F&ile name", name), 0, 0, 1, 2);
   grid->addWidget(name, 1, 0, 1, 2);
@@ -68,48 +68,6 @@ QLayout* makeFacts(Refresher& refresher, ui::Form1& form1) {
 
 }  // namespace
 
-QWidget* makeTagGroup(Refresher& refresher, ui::TagPanel& tags, ui::FieldChecks& checks) {
-  auto* group = new QWidget;
-  auto* grid = new QGridLayout(group);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(gap);
-  grid->setVerticalSpacing(gap);
-
-  QLabel* title = heading("Tags");
-  QPushButton* v1 = described(button("ID3v&1"), "ID3v1", "Show the values of the ID3v1 tag");
-  QPushButton* v2 = described(button("ID3v&2"), "ID3v2", "Show the values of the ID3v2 tag");
-  QWidget* view = joined({v1, v2});
-  bindOptionButton(refresher, tags.viewID3v1, v1);
-  bindOptionButton(refresher, tags.viewID3v2, v2);
-  QHBoxLayout* head = row();
-  head->addWidget(title, 1);
-  head->addWidget(view);
-  grid->addLayout(head, 0, 0, 1, 4);
-
-  const auto addBox = [&](int line, int place, int width, const QString& text, const QString& name,
-                          ui::TextBox& model, ui::CheckBox& check) {
-    auto* box = described(textField(), name, name + " in the tag");
-    bindTextBox(refresher, model, box);
-    QLabel* label = caption(text, box);
-    grid->addWidget(label, line, place);
-    grid->addWidget(withFieldCheck(refresher, check, box, name), line, place + 1, 1, width);
-  };
-  addBox(1, 0, 3, "&Title", "Title", tags.title, checks.title);
-  addBox(2, 0, 3, "A&rtist", "Artist", tags.artist, checks.artist);
-  addBox(3, 0, 3, "A&lbum", "Album", tags.album, checks.album);
-  addBox(4, 0, 1, "&Year", "Year", tags.year, checks.year);
-  addBox(4, 2, 1, "Trac&k", "Track", tags.track, checks.track);
-  auto* genre = described(roomy(new QComboBox), "Genre", "Genre in the tag: one of the list, or any other");
-  genre->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  genre->setMinimumContentsLength(12);
-  bindComboBox(refresher, tags.genre, genre);
-  grid->addWidget(caption("&Genre", genre), 5, 0);
-  grid->addWidget(withFieldCheck(refresher, checks.genre, genre, "Genre"), 5, 1, 1, 3);
-  grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(3, 1);
-  return group;
-}
-
 QWidget* makeFilePanel(Refresher& refresher, ui::Form1& form1, QWidget* window) {
   auto* pane = new Pane;
   pane->header()->addWidget(heading("Selected file"), 1);
@@ -120,7 +78,7 @@ QWidget* makeFilePanel(Refresher& refresher, ui::Form1& form1, QWidget* window) 
   layout->addLayout(makeNames(refresher, form1, window));
   layout->addLayout(makeFacts(refresher, form1));
   layout->addWidget(line());
-  layout->addWidget(makeTagGroup(refresher, form1.tags, form1.fieldChecks));
+  layout->addWidget(makeTagGroup(refresher, form1));
   layout->addStretch(1);
 
   auto* scroll = new QScrollArea;  // for small screens and large fonts

@@ -7,13 +7,18 @@
 #include "qt/grid.h"
 #include "qt/icons.h"
 #include "qt/pane.h"
+#include "qt/player_bar.h"
 #include "qt/repair_view.h"
 
 namespace velmora::qt {
 
 namespace {
 
-constexpr QSize designSize(1360, 820);
+constexpr QSize designSize(1560, 920);
+constexpr int listPane = 1;  // takes the room that a larger window has
+constexpr int listPaneShare = 600;
+constexpr int sidePaneShare = 300;
+constexpr int playerWidth = 110 * unit;
 
 // All option windows behind one button.
 QWidget* makeOptions(Refresher& refresher, ui::Form1& form1) {
@@ -43,6 +48,10 @@ QWidget* makeBottomBar(Refresher& refresher, ui::Form1& form1) {
 
   auto* status = described(new ElidedLabel, "Status", "What the program is doing");
   bindLabel(refresher, form1.statusLabel, status);
+  QWidget* player = makePlayerBar(refresher, form1);
+  player->setFixedWidth(playerWidth);
+  layout->addWidget(player);
+  layout->addSpacing(gap);
   layout->addWidget(status, 1);
   layout->addWidget(makeOptions(refresher, form1));
   QPushButton* assort =
@@ -61,9 +70,8 @@ Form1View::Form1View(const ViewContext& context, ui::Form1& form1, const ui::For
   panes->addWidget(makeFolderPane(refresher, form1));
   panes->addWidget(makeFileListPane(refresher, form1, base));
   panes->addWidget(makeFilePanel(refresher, form1, this));
-  panes->setStretchFactor(0, 2);
-  panes->setStretchFactor(1, 5);
-  panes->setStretchFactor(2, 2);
+  for (int pane = 0; pane < panes->count(); ++pane) panes->setStretchFactor(pane, pane == listPane ? 1 : 0);
+  panes->setSizes({sidePaneShare, listPaneShare, sidePaneShare});
 
   QVBoxLayout* layout = column(this, 0);
   layout->addWidget(makeRepairBar(refresher, form1));

@@ -9,7 +9,7 @@
 namespace velmora::qt {
 
 /// The Processing Window: from the left to the right the folders to add from, the list, and the file that is
-/// selected; below them the way on.
+/// selected; above them the commands on the selected files, below them the player and the way on.
 class Form1View : public QWidget {
   Q_OBJECT
 
@@ -23,6 +23,6 @@ QWidget* makeFolderPane(Refresher& refresher, ui::Form1& form1);
 QWidget* makeFileListPane(Refresher& refresher, ui::Form1& form1, const ui::Form3& base);
 /// `window` is what the list of completions opens over.
 QWidget* makeFilePanel(Refresher& refresher, ui::Form1& form1, QWidget* window);
-QWidget* makeTagGroup(Refresher& refresher, ui::TagPanel& tags, ui::FieldChecks& checks);
+QWidget* makeTagGroup(Refresher& refresher, ui::Form1& form1);
 
 }  // namespace velmora::qt

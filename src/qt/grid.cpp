@@ -9,9 +9,6 @@ namespace velmora::qt {
 namespace {
 
 class Hairline final : public QWidget {
- public:
-  Hairline() { setFixedHeight(1); }
-
  protected:
   void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), lineColour(palette())); }
 };
@@ -47,20 +44,21 @@ QLabel* secondary(const QString& text) {
 }
 
 QWidget* line() {
-  return new Hairline;
+  auto* made = new Hairline;
+  made->setFixedHeight(1);
+  return made;
+}
+
+QWidget* uprightLine() {
+  auto* made = new Hairline;
+  made->setFixedWidth(1);
+  return made;
 }
 
 QColor lineColour(const QPalette& palette) {
   QColor colour = palette.color(QPalette::WindowText);
   colour.setAlphaF(0.18F);
   return colour;
-}
-
-QWidget* joined(std::initializer_list<QWidget*> buttons) {
-  auto* group = new QWidget;
-  QHBoxLayout* layout = row(group, 0);
-  for (QWidget* button : buttons) layout->addWidget(button);
-  return group;
 }
 
 QPushButton* button(const QString& caption, const QString& icon) {

@@ -29,10 +29,10 @@ QLabel* heading(const QString& text);
 QLabel* secondary(const QString& text = {});
 /// A hairline across. It is drawn by hand, since the lines of styles differ in weight.
 QWidget* line();
+/// The same upright, between groups in a row.
+QWidget* uprightLine();
 /// The colour of hairlines, in step with the palette.
 QColor lineColour(const QPalette& palette);
-/// Two or more options as one control: buttons without a gap between them.
-QWidget* joined(std::initializer_list<QWidget*> buttons);
 /// A button with an icon; `caption` bears the mnemonic.
 QPushButton* button(const QString& caption, const QString& icon = {});
 /// A box for a line of text.

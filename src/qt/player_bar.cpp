@@ -86,11 +86,11 @@ QWidget* makePlayerBar(Refresher& refresher, ui::Form1& form1) {
   ui::PlayerPanel& player = form1.player;
   auto* bar = new QWidget;
   QHBoxLayout* layout = row(bar);
-  layout->setContentsMargins(edge, tight, edge, tight);
-  layout->addWidget(
-      joined({playerButton(refresher, player.play, "play", "Play", "Play"),
-              playerButton(refresher, player.pause, "pause", "Pause", "Pause"),
-              playerButton(refresher, player.stop, "stop", "Stop", "Stop, and back to the start")}));
+  QHBoxLayout* buttons = row(nullptr, 0);
+  buttons->addWidget(playerButton(refresher, player.play, "play", "Play", "Play"));
+  buttons->addWidget(playerButton(refresher, player.pause, "pause", "Pause", "Pause"));
+  buttons->addWidget(playerButton(refresher, player.stop, "stop", "Stop", "Stop, and back to the start"));
+  layout->addLayout(buttons);
 
   auto* position = described(new PositionTrack, "Position", "How far the song is");
   bindSlider(refresher, player.position, position);

@@ -1,7 +1,6 @@
 #include "qt/repair_view.h"
 
 #include <QAction>
-#include <QCheckBox>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -116,18 +115,6 @@ QWidget* makeNameTools(Refresher& refresher, ui::RepairTools& tools) {
   layout->addWidget(nameTool(refresher, tools.undoName, "Undo Name", "undo-name", undoNameCommand.tip));
   layout->addStretch();
   layout->addWidget(nameTool(refresher, tools.undo, "UNDO", "undo", undoCommand.tip));
-  return widget;
-}
-
-QWidget* withFieldCheck(Refresher& refresher, ui::CheckBox& check, QWidget* field, const QString& name) {
-  auto* widget = new QWidget;
-  QHBoxLayout* layout = row(widget, tight);
-  layout->addWidget(field, 1);
-  auto* mark = described(new QCheckBox, name + " for all selected files",
-                         "With several files selected: UPDATE writes this " + name.toLower() +
-                             " to all of them. Without it each keeps its own");
-  bindCheckBox(refresher, check, mark);
-  layout->addWidget(mark);
   return widget;
 }
 

@@ -15,9 +15,6 @@ QWidget* makeRepairBar(Refresher& refresher, ui::Form1& form1);
 /// What belongs beside the name box.
 QWidget* makeNameTools(Refresher& refresher, ui::RepairTools& tools);
 
-/// `field` with its check box to the right of it; `name` is what the field is called.
-QWidget* withFieldCheck(Refresher& refresher, ui::CheckBox& check, QWidget* field, const QString& name);
-
 /// The right-click menu of the file list, and Ctrl+Z in it.
 void addFileMenu(Refresher& refresher, ui::Form1& form1, ListView* list);
 

@@ -15,8 +15,8 @@ struct Colours {
 
 constexpr Colours light = {0xfff4f5f7, 0xffffffff, 0xfff7f8fa, 0xff1d2329, 0xfff9fafb, 0xff7b858f,
                            0xffa3abb3, 0xff2f74b5, 0xffffffff, 0xff1f6fb2, 0xfffdfdf4};
-constexpr Colours dark = {0xff23272c, 0xff1b1e22, 0xff20242a, 0xffe4e7ea, 0xff2e343a, 0xff8d969f,
-                          0xff69727b, 0xff2f6ea8, 0xffffffff, 0xff6db3f2, 0xff30363d};
+constexpr Colours dark = {0xff2d3136, 0xff1d2024, 0xff22262b, 0xffe6e8eb, 0xff3b4148, 0xff949da6,
+                          0xff727b84, 0xff2f6ea8, 0xffffffff, 0xff6db3f2, 0xff3a4047};
 
 QPalette paletteOf(const Colours& colours) {
   QPalette palette{QColor(colours.button), QColor(colours.window)};

@@ -16,7 +16,7 @@ struct Look {
   QString theme;
   QString scale;
   int width, height;  // of the screen in pixels
-  int dotsPerInch;
+  int fontDotsPerInch;
 };
 
 }  // namespace
@@ -27,15 +27,14 @@ bool showOtherLooks(const QString& pictures, int firstNumber) {
   for (const Look& look :
        {Look{"dark", "dark", "1", 1280, 800, 96}, Look{"small-screen", "light", "1", 1280, 800, 96},
         Look{"large-screen", "light", "1", 1920, 1080, 96}, Look{"scale-2", "light", "2", 2560, 1600, 96},
-        Look{"large-type", "dark", "1", 1920, 1080, 128}}) {
+        Look{"large-type", "dark", "1", 1600, 1000, 136}}) {
     const QString screen = folder.filePath(look.name + ".json");
     QFile file(screen);
     if (!file.open(QIODevice::WriteOnly)) return false;
     file.write(QStringLiteral(R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": %1, "height": %2,)"
-                              R"( "logicalDpi": %3, "logicalBaseDpi": 96, "dpr": 1}]})")
+                              R"( "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
                    .arg(look.width)
                    .arg(look.height)
-                   .arg(look.dotsPerInch)
                    .toUtf8());
     file.close();
 
@@ -43,6 +42,7 @@ bool showOtherLooks(const QString& pictures, int firstNumber) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("VELMORA_THEME", look.theme);
     environment.insert("QT_SCALE_FACTOR", look.scale);
+    environment.insert("QT_FONT_DPI", QString::number(look.fontDotsPerInch));
     environment.insert("QT_QPA_PLATFORM", "offscreen:configfile=" + screen);
     child.setProcessEnvironment(environment);
     child.setProcessChannelMode(QProcess::ForwardedChannels);
@@ -57,7 +57,8 @@ bool showOtherLooks(const QString& pictures, int firstNumber) {
 
 void addLook(Stage& stage, ui::Windows& windows, const QString& look) {
   const auto idle = [&windows] { return windows.form1.visible() && windows.form1.enabled(); };
-  stage.when(idle, [] { Stage::clickRow("Files", 1); });
+  // The start is over when the selection is back.
+  stage.when([&windows] { return windows.form1.List4.SelCount() > 0; }, [] { Stage::clickRow("Files", 1); });
   stage.picture(look, idle);
   stage.then([] { Stage::choose("Fix Options"); });
   stage.picture(look + "-dialog", [] { return Stage::sees("FIX OPTIONS"); });

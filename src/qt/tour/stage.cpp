@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -80,6 +81,8 @@ Stage& Stage::pictureAtOnce(const QString& name, Ready ready) {
 
 void Stage::play(Act onEnd) {
   onEnd_ = std::move(onEnd);
+  // Out of the way, so that nothing lights up under it.
+  QCursor::setPos(QApplication::primaryScreen()->geometry().bottomRight());
   tick();
 }
 
