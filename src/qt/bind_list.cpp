@@ -53,7 +53,7 @@ class Selection final : public QItemSelectionModel {
 class ListBinding final : public QObject {
  public:
   ListBinding(Refresher& refresher, ui::ListBox& list, ListView* view, Rows rows)
-      : QObject(view), list_(list), view_(view), model_(list, rows) {
+      : QObject(view), list_(list), view_(view), viewport_(view->viewport()), model_(list, rows) {
     view->setModel(&model_);
     delete view->selectionModel();
     view->setSelectionModel(new Selection(&model_, view));
@@ -73,7 +73,7 @@ class ListBinding final : public QObject {
   }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    if (object == view_->viewport() && event->type() == QEvent::MouseButtonPress) pressDelivered_ = false;
+    if (object == viewport_ && event->type() == QEvent::MouseButtonPress) pressDelivered_ = false;
     if (object == view_ && event->type() == QEvent::Show) shown_ = true;
     return false;
   }
@@ -155,6 +155,7 @@ class ListBinding final : public QObject {
 
   ui::ListBox& list_;
   ListView* view_;
+  const QObject* viewport_;  // to be told apart even while the view goes
   ListModel model_;
   int top_ = 0;  // as last shown or reported
   bool refreshing_ = false;

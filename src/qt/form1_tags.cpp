@@ -30,6 +30,7 @@ class TagBoxes {
     box->setMinimumContentsLength(12);
     bindComboBox(refresher_, model, box);
     add(line, 0, 3, text, box, check);
+    box->lineEdit()->setAccessibleName(box->accessibleName());
     hint(box->lineEdit(), check);
   }
 

@@ -7,6 +7,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 
 // Outside of any namespace, as the resource compiler wants it.
 static void initResources() {
@@ -31,12 +32,34 @@ QColor ink(QIcon::Mode mode) {
 
 class GlyphEngine final : public QIconEngine {
  public:
-  explicit GlyphEngine(const QString& file) {
+  explicit GlyphEngine(const QString& file) : file_(file) {
     QFile source(file);
     if (source.open(QIODevice::ReadOnly)) svg_ = source.readAll();
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    // Lists paint the same icon for each row, at each step of scrolling.
+    const QString key = QStringLiteral("%1 %2 %3x%4 %5")
+                            .arg(file_, ink(mode).name())
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(mode == QIcon::Disabled);
+    QPixmap drawn;
+    if (QPixmapCache::find(key, &drawn)) return drawn;
+    drawn = draw(size, mode);
+    QPixmapCache::insert(key, drawn);
+    return drawn;
+  }
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    const qreal ratio = painter->device()->devicePixelRatio();
+    painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
+  }
+
+  QIconEngine* clone() const override { return new GlyphEngine(*this); }
+
+ private:
+  QPixmap draw(const QSize& size, QIcon::Mode mode) const {
     QByteArray coloured = svg_;
     coloured.replace(inkInFiles, ink(mode).name().toLatin1());
     QBuffer buffer(&coloured);
@@ -53,14 +76,7 @@ class GlyphEngine final : public QIconEngine {
     return faded;
   }
 
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-    const qreal ratio = painter->device()->devicePixelRatio();
-    painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
-  }
-
-  QIconEngine* clone() const override { return new GlyphEngine(*this); }
-
- private:
+  QString file_;
   QByteArray svg_;
 };
 
