@@ -70,34 +70,40 @@ bool wanted(const Options& options, const Job& job) {
          std::find(options.jobs.begin(), options.jobs.end(), job.name) != options.jobs.end();
 }
 
-/// The collections of one size, made once and kept for later runs in the same folder.
-Scene prepare(const std::string& folder, int files) {
+/// The made collections of one size, and a place for what the jobs change.
+struct Place {
+  std::string newMusic, repairMusic, base, state, copy;
+
+  Scene sceneFor(const Job& job) const { return {job.music == Music::New ? newMusic : copy, base, state}; }
+};
+
+/// Makes what is not there yet: a folder that is given keeps its collections for later runs.
+Place prepare(const std::string& folder, int files) {
   const std::string own = folder + "/" + std::to_string(files);
-  const Scene scene{own + "/New music", own + "/Music Base", own + "/state"};
+  const Place place{own + "/New music", own + "/Repair", own + "/Music Base", own + "/state", own + "/copy"};
   if (!std::filesystem::exists(own + "/made")) {
-    std::fprintf(stderr, "making a collection of %d files and a base of %d ...\n", files,
+    std::fprintf(stderr, "making collections of %d files and a base of %d ...\n", files,
                  files * baseFilesPerNewFile);
     std::filesystem::remove_all(own);
-    makeNewMusic(scene.newMusic, files, seed);
-    makeBase(scene.base, files * baseFilesPerNewFile, seed);
+    makeNewMusic(place.newMusic, files, seed);
+    makeRepairMusic(place.repairMusic, files, seed);
+    makeBase(place.base, files * baseFilesPerNewFile, seed);
     std::filesystem::create_directory(own + "/made");
   }
-  return scene;
+  return place;
 }
 
-void runRound(const Options& options, const Scene& scene, Series* into) {
-  Scene copied = scene;
-  copied.newMusic += " (copy)";
+void runRound(const Options& options, const Place& place, Series* into) {
   for (const Job& job : jobs()) {
     if (!wanted(options, job)) continue;
-    if (job.music == Music::Fresh) {
-      std::filesystem::remove_all(copied.newMusic);
-      std::filesystem::copy(scene.newMusic, copied.newMusic, std::filesystem::copy_options::recursive);
+    if (job.music == Music::Repair) {
+      std::filesystem::remove_all(place.copy);
+      std::filesystem::copy(place.repairMusic, place.copy, std::filesystem::copy_options::recursive);
     }
-    const Outcome outcome = runInChild(job, job.music == Music::Shared ? scene : copied);
+    const Outcome outcome = runInChild(job, place.sceneFor(job));
     if (into != nullptr) into->outcomes[job.name].push_back(outcome);
   }
-  std::filesystem::remove_all(copied.newMusic);
+  std::filesystem::remove_all(place.copy);
 }
 
 int run(const Options& options) {
@@ -105,16 +111,16 @@ int run(const Options& options) {
       options.folder.empty()
           ? (std::filesystem::temp_directory_path() / ("velmora_bench." + std::to_string(getpid()))).string()
           : std::filesystem::absolute(options.folder).string();
-  std::vector<Scene> scenes;
+  std::vector<Place> places;
   std::vector<Series> sizes;
   for (const int files : options.sizes) {
-    scenes.push_back(prepare(folder, files));
+    places.push_back(prepare(folder, files));
     sizes.push_back({files, {}});
     // A round that does not count warms the cache of the system.
-    runRound(options, scenes.back(), nullptr);
+    runRound(options, places.back(), nullptr);
   }
   for (int round = 0; round < options.rounds; ++round) {
-    for (std::size_t i = 0; i < sizes.size(); ++i) runRound(options, scenes[i], &sizes[i]);
+    for (std::size_t i = 0; i < sizes.size(); ++i) runRound(options, places[i], &sizes[i]);
   }
   if (options.folder.empty()) std::filesystem::remove_all(folder);
   const int missed = report(sizes);

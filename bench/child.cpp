@@ -36,7 +36,7 @@ Outcome runInChild(const Job& job, const Scene& scene) {
   std::array<int, 2> ends{};
   if (pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
   std::array<std::string, 6> texts = {"velmora_bench", "--child",  job.name,
-                                      scene.newMusic,  scene.base, scene.state};
+                                      scene.music,     scene.base, scene.state};
   std::array<char*, 7> arguments{};
   for (std::size_t i = 0; i < texts.size(); ++i) arguments[i] = texts[i].data();
 

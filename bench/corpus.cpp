@@ -94,6 +94,25 @@ CorpusCounts makeNewMusic(const std::string& folder, int songs, std::uint64_t se
   return counts;
 }
 
+CorpusCounts makeRepairMusic(const std::string& folder, int songs, std::uint64_t seed) {
+  CorpusCounts counts;
+  Random random(seed ^ 0x666978U);
+  AlbumMaker albums(seed);
+  while (counts.songs < songs) {
+    const Album album = albums.next();
+    const std::string into = folder + "/" + asFileName(album.artist + " - " + album.title);
+    std::filesystem::create_directories(into);
+    for (std::size_t i = 0; i < album.songs.size() && counts.songs < songs; ++i) {
+      Song song = songOf(album, i);
+      song.artist = smallLetters(asFileName(song.artist));
+      song.title = smallLetters(asFileName(song.title));
+      place(into, song.artist + " - " + song.title + ".mp3", repairSongBytes(song, random));
+      ++counts.songs;
+    }
+  }
+  return counts;
+}
+
 CorpusCounts makeBase(const std::string& folder, int songs, std::uint64_t seed) {
   CorpusCounts counts;
   Random random(seed ^ 0x62617365U);

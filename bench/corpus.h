@@ -16,6 +16,9 @@ struct CorpusCounts {
 
 /// Music as it comes: albums in folders of their own, the rest in folders of some hundred downloads.
 CorpusCounts makeNewMusic(const std::string& folder, int songs, std::uint64_t seed);
+/// Music in which every name wants repair: all of it in small letters, each song with both tags, which say
+/// what the name says, and with room in the ID3v2 tag.
+CorpusCounts makeRepairMusic(const std::string& folder, int songs, std::uint64_t seed);
 /// A base: Genre/Artist/Album-Year/file, well named. Shares artists with the new music of the same seed.
 CorpusCounts makeBase(const std::string& folder, int songs, std::uint64_t seed);
 

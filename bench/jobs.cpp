@@ -3,19 +3,31 @@
 #include <array>
 
 #include "bench/list_jobs.h"
+#include "bench/repair_jobs.h"
 
 namespace velmora::bench {
 namespace {
 
+// Targets of the list jobs stand for the floor's cost per file, those of undo for the time of what is undone.
 constexpr std::array allJobs = {
-    Job{"floor", "list the tree, read 4 KiB and 128 bytes of each file", floorOfList, nullptr, 0, 0,
-        Music::Shared},
-    Job{"empty", "start and end with nothing on the list", emptyProgram, nullptr, 0, 0, Music::Shared},
-    Job{"tags", "read both tags of all rows", readTags, "floor", 2.0, 2.2, Music::Shared},
-    Job{"add", "Add, refresh option off", add, "floor", 2.0, 2.2, Music::Shared},
-    Job{"add+base", "Add, refresh option on: tags read, base listed", addWithBase, "floor", 4.0, 2.2,
-        Music::Shared},
-    Job{"load", "start with the list and base that Add left", load, "add+base", 0.5, 2.2, Music::Shared},
+    Job{"floor", "list the tree, read 4 KiB and 128 bytes of each file", floorOfList, Music::New},
+    Job{"empty", "start with nothing on the list", emptyProgram, Music::New},
+    Job{"tags", "read both tags of all rows", readTags, Music::New, "floor", 2.0, 2.2},
+    Job{"add", "Add, refresh option off", add, Music::New, "floor", 2.0, 2.2},
+    Job{"add+base", "Add, refresh option on: tags read, base listed", addWithBase, Music::New, "floor", 4.0,
+        2.2},
+    Job{"load", "start with the list and base that Add left", load, Music::New, "add+base", 0.5, 2.2},
+    Job{"fix floor", "the system calls that Fix Syntax cannot do without", floorOfFix, Music::Repair},
+    Job{"fix", "Fix Syntax that renames every row", fixSyntax, Music::Repair, "fix floor", 3.0, 2.3},
+    Job{"undo fix", "Undo last operation, after it", undoLast, Music::Left, "fix", 1.5, 2.3},
+    Job{"tags floor", "the system calls that FN-->ID3 cannot do without", floorOfTags, Music::Repair},
+    Job{"fn-->id3", "FN-->ID3 on tags with room", namesToTags, Music::Repair, "tags floor", 3.0, 2.3},
+    Job{"undo fn-->id3", "Undo last operation, after it", undoLast, Music::Left, "fn-->id3", 1.5, 2.3},
+    Job{"delete floor", "the system calls that Delete cannot do without", floorOfDelete, Music::Repair},
+    Job{"delete", "Delete of every row", deleteAll, Music::Repair, "delete floor", 4.0, 2.3},
+    Job{"undo delete", "Undo last operation, after it", undoLast, Music::Left, "delete", 1.5, 2.3},
+    Job{"last marker", "the last undo marker, in a journal of 1,000,000 records", lastMarker, Music::New,
+        nullptr, 0, 0, 5.0},
 };
 
 }  // namespace

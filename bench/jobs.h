@@ -9,9 +9,9 @@ namespace velmora::bench {
 
 /// What a job works on. All folders are full paths.
 struct Scene {
-  std::string newMusic;  ///< a collection to add
-  std::string base;      ///< a Music Base of four times as many files
-  std::string state;     ///< program folder, kept from job to job within one round
+  std::string music;  ///< a collection to work on
+  std::string base;   ///< a Music Base of four times as many files
+  std::string state;  ///< program folder, kept from job to job within one round
 };
 
 struct Measured {
@@ -26,11 +26,11 @@ inline Measured measured(const StopWatch& watch, int files, int tableRows) {
   return {watch.seconds(), watch.processorSeconds(), files, tableRows};
 }
 
-/// The collection that a job works on.
+/// The music that a job works on.
 enum class Music {
-  Shared,  ///< the one of all jobs, which it must leave as it is
-  Fresh,   ///< a copy made for it, which it may change
-  Left     ///< the copy as the last job with a fresh one left it
+  New,     ///< music as it comes, shared by all jobs, which must leave it as it is
+  Repair,  ///< a fresh copy of music in which every name wants repair, for the job to change
+  Left     ///< that copy as the job before left it
 };
 
 /// One thing that is timed, in a process of its own.
@@ -38,11 +38,12 @@ struct Job {
   const char* name;
   const char* what;  ///< one line for the report
   Measured (*run)(const Scene&);
-  /// Job whose time in the same round is the yardstick, or null: then only the time is told.
-  const char* against;
-  double mostRatio;  ///< the target for time / yardstick; 0 for none
-  double mostSlope;  ///< the target for the time of twice as many files / the time; 0 for none
   Music music;
+  /// Job whose time in the same round is the yardstick, or null: then only the time is told.
+  const char* against = nullptr;
+  double mostRatio = 0;         ///< the target for time / yardstick; 0 for none
+  double mostSlope = 0;         ///< the target for the time of twice as many files / the time; 0 for none
+  double mostMilliseconds = 0;  ///< the target for the time itself; 0 for none
 };
 
 /// All jobs in the order of a round: a job may stand on the state that an earlier one left.

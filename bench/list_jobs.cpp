@@ -22,7 +22,7 @@ Measured addTo(const Scene& scene, bool withBase) {
   program.settings().set(u"DirZaBazu", withBase ? core::fromBytes(scene.base) : Text());
   program.settings().set(u"ex7", withBase ? u" 1" : u" 0");
   program.start();
-  program.form1().folderTree.click(core::fromBytes(scene.newMusic));
+  program.form1().folderTree.click(core::fromBytes(scene.music));
   const StopWatch watch;
   program.form1().add.click();
   const Measured result = measure(watch, program);
@@ -41,7 +41,7 @@ void listFiles(const std::string& folder, core::TrackTable& table) {
 
 Measured floorOfList(const Scene& scene) {
   const StopWatch watch;
-  const FloorTotals totals = readFloor(scene.newMusic);
+  const FloorTotals totals = readFloor(scene.music);
   return measured(watch, totals.files, 0);
 }
 
@@ -58,7 +58,7 @@ Measured emptyProgram(const Scene& scene) {
 Measured readTags(const Scene& scene) {
   system::PosixFiles files;
   core::TrackTable table;
-  listFiles(scene.newMusic, table);
+  listFiles(scene.music, table);
   table.setBrojfajlova(table.rows());
   table.resizeColumns();
   tags::TagCache cache(table, files);

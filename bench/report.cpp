@@ -78,6 +78,7 @@ void printTimes(const Series& series, int& missed) {
       printTarget(printRatio(series, job.name, series, job.against), job.mostRatio, missed);
       std::printf("  of %s", job.against);
     }
+    printTarget(seconds * 1000, job.mostMilliseconds, missed);
     std::printf("\n");
   }
 }

@@ -58,4 +58,15 @@ std::string songBytes(const Song& song, Random& random) {
   return bytes;
 }
 
+std::string repairSongBytes(const Song& song, Random& random) {
+  const SongTags tags{core::fromBytes(song.title),
+                      core::fromBytes(song.artist),
+                      core::fromBytes(song.album),
+                      core::fromBytes(std::to_string(song.year)),
+                      song.track,
+                      core::fromBytes(song.genre)};
+  return Id3v2Maker(3).values(tags).padding(1200).plainBytes() + test::mpegFrames(random.between(6, 16)) +
+         test::id3v1Tag(tags, tags::genreCode(tags.genre).value_or(255));
+}
+
 }  // namespace velmora::bench

@@ -33,13 +33,6 @@ std::string capital(std::string word) {
   return word;
 }
 
-std::string lowered(std::string text) {
-  for (char& c : text) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return text;
-}
-
 std::string replaced(const std::string& text, char what, std::string_view with) {
   std::string result;
   for (const char c : text) {
@@ -99,6 +92,13 @@ Album AlbumMaker::next() {
   return album;
 }
 
+std::string smallLetters(std::string text) {
+  for (char& c : text) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return text;
+}
+
 std::string asFileName(const std::string& text) {
   std::string result = text;
   for (char& c : result) {
@@ -120,7 +120,7 @@ std::string songFileName(const Song& song, Random& random) {
   } else if (kind < 74) {
     name = number + ". " + song.title;
   } else if (kind < 80) {
-    name = lowered(replaced(song.artist + " - " + song.title, ' ', "_"));
+    name = smallLetters(replaced(song.artist + " - " + song.title, ' ', "_"));
   } else if (kind < 84) {
     name = replaced(song.artist + " - " + song.title, ' ', "%20");
   } else if (kind < 90) {
@@ -130,7 +130,7 @@ std::string songFileName(const Song& song, Random& random) {
   } else if (kind < 95) {
     name = "Track " + number + " - " + song.title;
   } else if (kind < 97) {
-    name = lowered(song.artist) + "-" + lowered(song.title);
+    name = smallLetters(song.artist) + "-" + smallLetters(song.title);
   } else {
     name = song.artist + " - " + song.title;
     name.insert(name.begin() + random.below(static_cast<int>(name.size())), random.pick(loneBytes));

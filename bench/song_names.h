@@ -51,6 +51,8 @@ class AlbumMaker {
 std::string songFileName(const Song& song, Random& random);
 /// Name of a file that lies beside music and is none.
 std::string otherFileName(Random& random);
+/// With A to Z made small.
+std::string smallLetters(std::string text);
 /// The text less what a file name cannot hold.
 std::string asFileName(const std::string& text);
 
