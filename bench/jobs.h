@@ -30,7 +30,7 @@ inline Measured measured(const StopWatch& watch, int files, int tableRows) {
 enum class Music {
   New,     ///< music as it comes, shared by all jobs, which must leave it as it is
   Repair,  ///< a fresh copy of music in which every name wants repair, for the job to change
-  Left     ///< that copy as the job before left it
+  Left     ///< that copy as the jobs before left it
 };
 
 /// One thing that is timed, in a process of its own.

@@ -17,7 +17,7 @@ Measured lastMarker(const Scene& scene);
 /// One rename, the reads and in-place writes of the tags, and an open, append and close for each journal
 /// line.
 Measured floorOfFix(const Scene& scene);
-/// Opens, reads and writes the same bytes in place.
+/// Opens, reads and writes the same bytes in place, as often as the command does.
 Measured floorOfTags(const Scene& scene);
 /// One rename and one info file.
 Measured floorOfDelete(const Scene& scene);
