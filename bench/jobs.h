@@ -17,7 +17,7 @@ struct Scene {
 struct Measured {
   double seconds = 0;
   double processorSeconds = 0;
-  int files = 0;      ///< listed: rows of the working list
+  int files = 0;      ///< that it was about
   int tableRows = 0;  ///< rows of the table, with the copy of the base behind the list
 };
 

@@ -19,10 +19,12 @@ constexpr std::size_t renameLineBytes = 260;
 constexpr std::size_t tagLineBytes = 320;
 constexpr std::size_t infoBytes = 160;
 
+/// As many files of the collection as the list can show, and so a command can be given.
 std::vector<std::string> filesOf(const std::string& folder) {
+  constexpr std::size_t mostShown = 32736;
   std::vector<std::string> paths;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-    if (entry.is_regular_file()) paths.push_back(entry.path().native());
+    if (entry.is_regular_file() && paths.size() < mostShown) paths.push_back(entry.path().native());
   }
   return paths;
 }

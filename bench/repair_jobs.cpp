@@ -1,5 +1,6 @@
 #include "bench/repair_jobs.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <numeric>
@@ -12,10 +13,6 @@
 
 namespace velmora::bench {
 namespace {
-
-Measured measure(const StopWatch& watch, HeadlessProgram& program) {
-  return measured(watch, program.table().brojfajlova(), program.table().rows());
-}
 
 void selectAll(ui::ListBox& list) {
   std::vector<int> indexes(static_cast<std::size_t>(list.ListCount()));
@@ -35,11 +32,13 @@ void setUp(HeadlessProgram& program, const Scene& scene) {
   form1.tags.writeID3v2.setChecked(true);
 }
 
-Measured timed(HeadlessProgram& program, ui::Button& button) {
+/// Of all files that the list shows; a long list shows a part of its rows.
+Measured timed(HeadlessProgram& program, ui::Button& button, int files) {
   if (!button.enabled()) throw std::runtime_error("the command is not to be had");
+  const int rows = program.table().rows();
   const StopWatch watch;
   button.click();
-  const Measured result = measure(watch, program);
+  const Measured result = measured(watch, files, std::max(rows, program.table().rows()));
   program.end();
   return result;
 }
@@ -48,7 +47,8 @@ Measured batch(const Scene& scene, ui::Button ui::RepairTools::*button) {
   std::filesystem::remove_all(scene.state);
   HeadlessProgram program(scene.state);
   setUp(program, scene);
-  return timed(program, program.form1().repair.*button);
+  ui::Form1& form1 = program.form1();
+  return timed(program, form1.repair.*button, form1.List4.ListCount());
 }
 
 }  // namespace
@@ -68,7 +68,9 @@ Measured deleteAll(const Scene& scene) {
 Measured undoLast(const Scene& scene) {
   HeadlessProgram program(scene.state);
   program.start();
-  return timed(program, program.form1().repair.undoLastOperation);
+  ui::Form1& form1 = program.form1();
+  const Measured result = timed(program, form1.repair.undoLastOperation, 0);
+  return {result.seconds, result.processorSeconds, form1.List4.ListCount(), result.tableRows};
 }
 
 Measured lastMarker(const Scene& scene) {

@@ -72,8 +72,9 @@ void printTimes(const Series& series, int& missed) {
   for (const Job& job : jobs()) {
     const double seconds = median(times(series, job.name, &Measured::seconds));
     if (seconds == 0) continue;
-    std::printf("  %-16s %9.3f %12.2f %9.1f  ", job.name, seconds, seconds * 1e6 / series.files,
-                peakKiB(series, job.name) / 1024);
+    const int about = find(series, job.name)->front().measured.files;
+    std::printf("  %-16s %9.3f %12.2f %9.1f  ", job.name, seconds,
+                seconds * 1e6 / (about > 0 ? about : series.files), peakKiB(series, job.name) / 1024);
     if (find(series, job.against) != nullptr) {
       printTarget(printRatio(series, job.name, series, job.against), job.mostRatio, missed);
       std::printf("  of %s", job.against);
@@ -83,16 +84,18 @@ void printTimes(const Series& series, int& missed) {
   }
 }
 
+/// A target stands for a doubling; a list too long to be shown gives its commands fewer files than that.
 void printSlopes(const Series& smaller, const Series& larger, int& missed) {
   std::printf("\n%d files against %d (in processor time)\n", larger.files, smaller.files);
-  // A target stands for a doubling.
-  const bool doubled = larger.files == 2 * smaller.files;
   for (const Job& job : jobs()) {
-    if (job.mostSlope == 0 || find(smaller, job.name) == nullptr || find(larger, job.name) == nullptr)
-      continue;
+    const auto* before = find(smaller, job.name);
+    const auto* after = find(larger, job.name);
+    if (job.mostSlope == 0 || before == nullptr || after == nullptr) continue;
+    const double growth = static_cast<double>(after->front().measured.files) / before->front().measured.files;
+    const bool doubled = growth > 1.95 && growth < 2.05;
     std::printf("  %-16s", job.name);
     printTarget(printRatio(larger, job.name, smaller, job.name), doubled ? job.mostSlope : 0, missed);
-    std::printf("\n");
+    std::printf(doubled ? "\n" : "   for %.2f x the files\n", growth);
   }
 }
 

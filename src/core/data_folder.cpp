@@ -95,7 +95,14 @@ Text DataFolder::path(TextView fileName) const {
 void DataFolder::writeColumn(TextView fileName, const TrackTable& table, Column column) {
   const int rows = table.upperBound(column);
   Bytes content;
-  for (int row = 1; row <= rows; ++row) records::write(content, table.element(column, row));
+  // Rows and their texts lie all over the memory; asked for ahead, they are there in time.
+  constexpr int rowAhead = 24;
+  constexpr int textAhead = 12;
+  for (int row = 1; row <= rows; ++row) {
+    __builtin_prefetch(&table.element(column, row + rowAhead));
+    __builtin_prefetch(&table.element(column, row + textAhead).text());
+    records::write(content, table.element(column, row));
+  }
   store(fileName, content);
 }
 
