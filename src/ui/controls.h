@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "platform/text.h"
@@ -14,6 +16,11 @@ enum class Key { Up, Down, Enter, Delete, F12, Escape };
 struct KeyPress {
   Key key;
   bool shift = false;
+};
+
+struct Colour {
+  std::uint8_t red, green, blue;
+  bool operator==(const Colour&) const = default;
 };
 
 /// What every control has. A disabled control ignores the user, but code may still change it.
@@ -36,22 +43,39 @@ class Control : public Observable {
   int focusRequests_ = 0;
 };
 
+/// A part of a window that is shown and hidden with all it holds.
+class Frame : public Control {};
+
 class Label : public Control {
  public:
   const Text& text() const { return text_; }
   void setText(Text text) { assign(text_, std::move(text)); }
+  /// Colour of the text; none leaves it to the view.
+  const std::optional<Colour>& colour() const { return colour_; }
+  void setColour(std::optional<Colour> colour) { assign(colour_, colour); }
 
  private:
   Text text_;
+  std::optional<Colour> colour_;
 };
 
 class Button : public Control {
  public:
   std::function<void()> onClick;
+  /// What the button says where that changes; empty leaves it to the view.
+  const Text& caption() const { return caption_; }
+  void setCaption(Text caption) { assign(caption_, std::move(caption)); }
+  /// Colour behind the caption; none leaves it to the view.
+  const std::optional<Colour>& colour() const { return colour_; }
+  void setColour(std::optional<Colour> colour) { assign(colour_, colour); }
   /// Does nothing while the button is disabled or hidden.
   void click() {
     if (enabled() && visible() && onClick) onClick();
   }
+
+ private:
+  Text caption_;
+  std::optional<Colour> colour_;
 };
 
 /// A line of text. The cursor counts the characters to its left.
@@ -141,6 +165,8 @@ class FolderBox : public Control {
  public:
   /// Raised when the user clicks a folder.
   std::function<void()> onClick;
+  /// Raised when folders from another program are dropped here.
+  std::function<void(const std::vector<Text>& paths)> onDropFolders;
 
   const Text& path() const { return path_; }
   /// Shows a folder; one that does not exist leaves the tree at its nearest parent.

@@ -73,14 +73,26 @@ void ListBox::splice(int first, int removed, int inserted) {
 
 void ListBox::Clear() {
   if (rows_.empty()) return;
-  fill({});
+  refill({});
 }
 
 void ListBox::fill(std::vector<Text> texts) {
-  splice(0, ListCount(), static_cast<int>(texts.size()));
-  rows_.clear();
-  rows_.reserve(texts.size());
-  for (Text& text : texts) rows_.push_back(Row{std::move(text), 0, false});
+  std::vector<Row> rows;
+  rows.reserve(texts.size());
+  for (Text& text : texts) rows.push_back(Row{std::move(text), 0, false});
+  refill(std::move(rows));
+}
+
+void ListBox::fillItems(std::vector<ListItem> items) {
+  std::vector<Row> rows;
+  rows.reserve(items.size());
+  for (ListItem& item : items) rows.push_back(Row{std::move(item.text), item.data, false});
+  refill(std::move(rows));
+}
+
+void ListBox::refill(std::vector<Row> rows) {
+  splice(0, ListCount(), static_cast<int>(rows.size()));
+  rows_ = std::move(rows);
   selCount_ = 0;
   listIndex_ = -1;
   topIndex_ = 0;

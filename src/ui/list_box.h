@@ -9,6 +9,12 @@
 
 namespace velmora::ui {
 
+struct ListItem {
+  Text text;
+  int data = 0;
+  bool operator==(const ListItem&) const = default;
+};
+
 /// A list of texts with one integer of item data each. Indexes count from 0; an index outside the list reads
 /// as an empty row and changes nothing.
 ///
@@ -26,6 +32,16 @@ class ListBox : public Control {
   std::function<void()> onDoubleClick;
   /// Returns true when the key was used up.
   std::function<bool(KeyPress)> onKey;
+  /// Raised when the user lets go of the mouse on the list, behind the click.
+  std::function<void()> onMouseUp;
+
+  /// What a drag of the selected rows carries to the program's own lists; empty when rows cannot be dragged
+  /// there.
+  Text dragWord;
+  /// Full paths that a drag of the selected rows carries to other programs.
+  std::function<std::vector<Text>()> dragFiles;
+  /// Raised when a drag that carries a list's word is dropped here.
+  std::function<void(const Text& word)> onDrop;
 
   int ListCount() const { return static_cast<int>(rows_.size()); }
   const Text& List(int index) const;
@@ -40,8 +56,9 @@ class ListBox : public Control {
   void insertItem(int index, Text text, int data = 0);
   void RemoveItem(int index);
   void Clear();
-  /// Replaces all rows at once, none selected.
+  /// Replaces all rows at once, none selected. The order is the caller's, in a sorted list too.
   void fill(std::vector<Text> texts);
+  void fillItems(std::vector<ListItem> items);
 
   bool Selected(int index) const;
   /// In a single-selection list, selecting one row takes the mark off the others.
@@ -60,6 +77,10 @@ class ListBox : public Control {
   /// First row in sight. A number beyond the list counts as its last row.
   int TopIndex() const { return topIndex_; }
   void setTopIndex(int index);
+
+  /// How many whole rows are in sight. Kept up to date by the view.
+  int visibleRows() const { return visibleRows_; }
+  void setVisibleRows(int rows) { visibleRows_ = rows; }
 
   Selection selection() const { return selection_; }
 
@@ -91,6 +112,7 @@ class ListBox : public Control {
   void clicked() {
     if (onClick) onClick();
   }
+  void refill(std::vector<Row> rows);
   /// `removed` rows from `first` on gave way to `inserted` others: joins that to what the view has yet to
   /// hear.
   void splice(int first, int removed, int inserted);
@@ -101,6 +123,7 @@ class ListBox : public Control {
   int selCount_ = 0;
   int listIndex_ = -1;
   int topIndex_ = 0;
+  int visibleRows_ = 20;
   Splice splice_;
 };
 

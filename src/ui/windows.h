@@ -5,6 +5,7 @@
 #include "ui/dialog1.h"
 #include "ui/dialog2.h"
 #include "ui/form1.h"
+#include "ui/form2.h"
 #include "ui/form3.h"
 #include "ui/form5.h"
 #include "ui/form6.h"
@@ -17,6 +18,7 @@ namespace velmora::ui {
 /// Every window of the program, made once. Options that commands read live in their windows.
 struct Windows {
   Form1 form1;
+  Form2 form2;
   Form3 form3;
   Form5 form5;
   Form6 form6;
@@ -28,8 +30,8 @@ struct Windows {
   FrmAbout frmAbout;
 
   /// All of them, for what concerns every window alike.
-  std::array<Window*, 10> all() {
-    return {&form1, &form3, &form5, &form6, &form7, &form8, &dialog1, &dialog2, &frmTip, &frmAbout};
+  std::array<Window*, 11> all() {
+    return {&form1, &form2, &form3, &form5, &form6, &form7, &form8, &dialog1, &dialog2, &frmTip, &frmAbout};
   }
 };
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/track_table.h"
+#include "platform/files.h"
+#include "review/undo_journal.h"
+
+namespace velmora::base {
+
+/// Folders of the base that commands make and take away.
+class Folders {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    review::UndoJournal& journal;
+  };
+  explicit Folders(const Parts& parts) : parts_(parts) {}
+
+  /// Whether the folder was there; makes it when not. While the New Music Window is at work (`aktivniprozor`
+  /// 2) the journal is told first ("mkd"). Throws FileError.
+  bool PostojiDir(TextView path);
+  /// Makes the folder when it is missing; the journal is not told. Throws FileError.
+  void EnsureFolder(TextView path);
+  /// Removes a folder and its subfolders as far as they hold no files. Throws FileError.
+  void RemoveEmptyTree(TextView path);
+
+ private:
+  Parts parts_;
+};
+
+}  // namespace velmora::base

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+
+#include "core/settings.h"
+#include "platform/text.h"
+#include "ui/form3.h"
+
+namespace velmora::base {
+
+/// The frame "Select Years": which years an album folder may bear in its name to be shown.
+class YearFilter {
+ public:
+  YearFilter(core::Settings& settings, ui::Form3& form3) : settings_(settings), form3_(form3) {}
+
+  /// Raised when another choice was applied: the base is to be listed anew.
+  std::function<void()> onApplied;
+
+  /// Fills the list for the current year and selects what was stored.
+  void load(int currentYear);
+  /// Whether no filter is in force: "<<Show All Years>>" is selected.
+  bool allYears() const;
+  /// Whether a folder of this name or path is to be shown; asks the years alone.
+  bool passes(TextView folder) const;
+  /// The selected rows as the settings keep them.
+  Text StanjeLista9() const;
+
+  void open();
+  void ok();
+  void cancel();
+
+ private:
+  core::Settings& settings_;
+  ui::Form3& form3_;
+};
+
+}  // namespace velmora::base
