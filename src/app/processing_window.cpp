@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "app/guarded.h"
-#include "app/list_state.h"
 #include "app/stored_place.h"
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
 #include "tags/genre.h"
+#include "ui/list_state.h"
 
 namespace velmora::app {
 
@@ -82,7 +82,7 @@ void ProcessingWindow::storePlace() {
 }
 
 void ProcessingWindow::restoreLists() {
-  const ListState state = readListState(settings_.get(u"stanje0"), FieldCount);
+  const ui::ListState state = ui::readListState(settings_.get(u"stanje0"), FieldCount);
   table_.puniliste = 1;
   guarded([&] {
     selectAgain(form1_.List1, state[Artists]);
@@ -105,14 +105,14 @@ void ProcessingWindow::fillGenres() {
 
 void ProcessingWindow::store() {
   settings_.set(u"velicinasfiles", core::number(table_.velicinasfiles));
-  ListState state(FieldCount);
+  ui::ListState state(FieldCount);
   state[Artists] = form1_.List1.selectedIndexes();
   state[Songs] = form1_.List2.selectedIndexes();
   state[Files] = form1_.List4.selectedIndexes();
   state[TopArtist] = {form1_.List1.TopIndex()};
   state[TopSong] = {form1_.List2.TopIndex()};
   state[TopFile] = {form1_.List4.TopIndex()};
-  settings_.set(u"stanje0", writeListState(state));
+  settings_.set(u"stanje0", ui::writeListState(state));
   settings_.set(u"slider", core::number(form1_.preview.share()));
 }
 

@@ -7,7 +7,7 @@
 namespace velmora::platform {
 
 enum class Buttons { Ok, OkCancel, YesNo, AbortRetryIgnore };
-enum class Icon { None, Information, Question, Critical };
+enum class Icon { None, Information, Question, Exclamation, Critical };
 enum class Answer { Ok, Cancel, Abort, Retry, Ignore, Yes, No };
 
 /// Boxes that stop the program until the user answers. Closing a box without an answer counts as Cancel, No

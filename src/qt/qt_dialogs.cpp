@@ -63,6 +63,8 @@ QMessageBox::Icon iconOf(platform::Icon icon) {
       return QMessageBox::Information;
     case platform::Icon::Question:
       return QMessageBox::Question;
+    case platform::Icon::Exclamation:
+      return QMessageBox::Warning;
     case platform::Icon::Critical:
       return QMessageBox::Critical;
     case platform::Icon::None:

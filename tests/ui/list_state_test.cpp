@@ -1,8 +1,8 @@
-#include "app/list_state.h"
+#include "ui/list_state.h"
 
 #include <gtest/gtest.h>
 
-namespace velmora::app {
+namespace velmora::ui {
 namespace {
 
 TEST(ListState, IsFieldsOfNumbersWithALeadingBlank) {
@@ -27,4 +27,4 @@ TEST(ListState, ReadsWhatItCanOfAnyText) {
 }
 
 }  // namespace
-}  // namespace velmora::app
+}  // namespace velmora::ui

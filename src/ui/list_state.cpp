@@ -1,8 +1,8 @@
-#include "app/list_state.h"
+#include "ui/list_state.h"
 
 #include "core/number_text.h"
 
-namespace velmora::app {
+namespace velmora::ui {
 
 namespace {
 
@@ -38,4 +38,4 @@ ListState readListState(TextView text, std::size_t count) {
   return fields;
 }
 
-}  // namespace velmora::app
+}  // namespace velmora::ui

@@ -6,7 +6,7 @@
 
 /// The text that keeps selections and top rows of lists between two runs: fields, each ended by ":", of
 /// numbers with a leading blank, each ended by ",". docs/formats.md gives the fields of each key.
-namespace velmora::app {
+namespace velmora::ui {
 
 using ListState = std::vector<std::vector<int>>;
 
@@ -15,4 +15,4 @@ Text writeListState(const ListState& fields);
 /// no number is passed over.
 ListState readListState(TextView text, std::size_t count);
 
-}  // namespace velmora::app
+}  // namespace velmora::ui
