@@ -51,7 +51,7 @@ void wireUndo(House& house) {
   tools.undoName.onClick = command(house, form1, [&room] {
     if (!room.undoName.undoEdit()) room.undoName.undoName();
   });
-  house.journal.onMarker = [&room](std::string_view) { room.undoCommands.showState(); };
+  house.journal.onMarker = [&room](std::string_view kind) { room.undoCommands.showState(kind); };
   house.events.onUndoState = [&room](bool) { room.undoCommands.showState(); };
 }
 

@@ -5,7 +5,6 @@
 #include <unordered_map>
 
 #include "core/number_text.h"
-#include "list/file_sizes.h"
 #include "list/other_rows.h"
 #include "list/view_choice.h"
 #include "platform/file_error.h"
@@ -115,14 +114,20 @@ void DeleteFiles::deleteRows(std::vector<int> rows, bool withSelection) {
 void DeleteFiles::deleteRow(int row) {
   const Text path = parts_.table.path(row);
   const bool working = row <= parts_.table.brojfajlova();
-  const double size = list::bytesOf(parts_.files, path);
+  std::uint64_t size = 0;
+  try {
+    if (parts_.files.fileExists(path)) size = parts_.files.size(path);
+  } catch (const FileError&) {
+    return;  // without its size it would not be known again in the trash
+  }
   Text trashPath;
   if (!sendToTrash(path, trashPath)) return;
   try {
     parts_.rows.removeRow(row);
-    if (working) parts_.table.velicinasfiles = std::max(0.0, parts_.table.velicinasfiles - size);
+    if (working)
+      parts_.table.velicinasfiles = std::max(0.0, parts_.table.velicinasfiles - static_cast<double>(size));
     if (trashPath.empty()) return;
-    parts_.journal.appendUndoRecord("del", deletedFile(static_cast<std::uint64_t>(size), path), trashPath);
+    parts_.journal.appendUndoRecord("del", deletedFile(size, path), trashPath);
   } catch (const FileError&) {
     // What cannot be taken back must not stay.
     if (!trashPath.empty()) parts_.trash.bringBack(trashPath, path);

@@ -83,7 +83,9 @@ UndoOutcome Replay::undoDelete(const Data& data) {
   if (!deleted) return UndoOutcome::Done;
   lastDeleted_ = deleted->path;
   const Text inTrash(data.rest);
-  if (!parts_.files.fileExists(inTrash) || parts_.files.size(inTrash) != deleted->size) {
+  bool same = parts_.files.fileExists(inTrash);
+  parts_.errors.attempt([&] { same = same && parts_.files.size(inTrash) == deleted->size; });
+  if (!same) {
     // After an undo that was cut short the file may be back already.
     if (parts_.files.fileExists(deleted->path) && !parts_.files.fileExists(inTrash)) return UndoOutcome::Done;
     undeleteFailed_ = true;

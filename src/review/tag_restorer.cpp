@@ -86,7 +86,14 @@ UndoOutcome TagRestorer::restore(int row, const RowSnapshot& before) {
   if (!parts_.files.fileExists(path)) return UndoOutcome::Done;
 
   const player::FileHandOver handOver(parts_.player, path);
-  if ((hadID3v1 && !before.imaid3v1) || (hadID3v2 && !before.imaid3v2)) removeNewTags(path, before);
+  if ((hadID3v1 && !before.imaid3v1) || (hadID3v2 && !before.imaid3v2)) {
+    // Until they are gone the columns speak of them, so that an undo that is tried again finds them.
+    track.imaid3v1 = hadID3v1;
+    track.imaid3v2 = hadID3v2;
+    if (!removeNewTags(path, before)) track.procitan = false;
+    track.imaid3v1 = before.imaid3v1;
+    track.imaid3v2 = before.imaid3v2;
+  }
   const UndoOutcome outcome = writeTags(path, track);
   parts_.panel.info(path, row, tags::InfoMode::TagsOnly);
   return outcome;
@@ -94,15 +101,22 @@ UndoOutcome TagRestorer::restore(int row, const RowSnapshot& before) {
 
 /// The file is asked, not the columns: after a crash they may speak of a tag that is gone already, and
 /// cutting it off again would cut into the music.
-void TagRestorer::removeNewTags(const Text& path, const RowSnapshot& before) {
-  if (!before.imaid3v1)
+bool TagRestorer::removeNewTags(const Text& path, const RowSnapshot& before) {
+  bool first = before.imaid3v1;
+  bool second = before.imaid3v2;
+  if (!first)
     parts_.errors.attempt([&] {
       tags::cMP3ID3v1 tag(parts_.files);
       tag.setMP3File(path);
       if (tag.HasID3v1Tag()) tags::SkiniID3v1(parts_.files, parts_.desktop, parts_.player, path);
+      first = true;
     });
-  if (!before.imaid3v2)
-    parts_.errors.attempt([&] { tags::SkiniID3v2(parts_.files, parts_.desktop, parts_.player, path); });
+  if (!second)
+    parts_.errors.attempt([&] {
+      tags::SkiniID3v2(parts_.files, parts_.desktop, parts_.player, path);
+      second = true;
+    });
+  return first && second;
 }
 
 UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {

@@ -33,7 +33,8 @@ class TagRestorer {
   UndoOutcome restore(int row, const RowSnapshot& before);
 
  private:
-  void removeNewTags(const Text& path, const RowSnapshot& before);
+  /// Whether the tags are gone that the file had not before.
+  bool removeNewTags(const Text& path, const RowSnapshot& before);
   UndoOutcome writeTags(const Text& path, core::Track& track);
   bool makeWritable(const Text& path);
 

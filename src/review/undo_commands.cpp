@@ -1,6 +1,7 @@
 #include "review/undo_commands.h"
 
 #include "list/quiet_lists.h"
+#include "platform/file_error.h"
 
 namespace velmora::review {
 
@@ -42,7 +43,14 @@ void UndoCommands::restoreAllChanges() {
 }
 
 void UndoCommands::showState() {
-  const std::string top = parts_.journal.lastUndoMarker();
+  try {
+    showState(parts_.journal.lastUndoMarker());
+  } catch (const platform::FileError&) {
+    // The next command looks again.
+  }
+}
+
+void UndoCommands::showState(std::string_view top) {
   ui::RepairTools& tools = parts_.form1.repair;
   tools.undoLastOperation.setEnabled(top == "st1");
   tools.undo.setEnabled(top == "st1");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "core/track_table.h"
 #include "list/closing_step.h"
 #include "platform/dialogs.h"
@@ -31,8 +33,11 @@ class UndoCommands {
   void undoLastOperation();
   /// "Restore all changes after Check+Fix": asks first.
   void restoreAllChanges();
-  /// Enables the buttons by what stands on top of the journal.
+  /// Enables the buttons by what stands on top of the journal. One that cannot be read just now leaves them
+  /// as they are.
   void showState();
+  /// The same where the topmost marker is known.
+  void showState(std::string_view top);
 
  private:
   void clearFileSelection();

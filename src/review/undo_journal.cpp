@@ -68,16 +68,12 @@ bool UndoJournal::endsTorn() const {
 std::string UndoJournal::lastUndoMarker() const {
   std::string marker;
   if (!settings_.exists() || !exists()) return marker;
-  try {
-    const auto file = files_.open(path_, platform::OpenMode::Read);
-    journal_lines::visitFromEnd(*file, [&marker](BytesView record, std::uint64_t) {
-      const BytesView kind = record.substr(0, kindLength);
-      if (std::ranges::find(markerKinds, kind) != markerKinds.end()) marker = kind;
-      return marker.empty();
-    });
-  } catch (const platform::FileError&) {
-    // What cannot be read cannot be undone either.
-  }
+  const auto file = files_.open(path_, platform::OpenMode::Read);
+  journal_lines::visitFromEnd(*file, [&marker](BytesView record, std::uint64_t) {
+    const BytesView kind = record.substr(0, kindLength);
+    if (std::ranges::find(markerKinds, kind) != markerKinds.end()) marker = kind;
+    return marker.empty();
+  });
   return marker;
 }
 

@@ -29,7 +29,8 @@ class UndoJournal {
   /// A stretch of records starts here. Throws FileError like appendUndoRecord.
   void appendUndoMarker(std::string_view kind);
   /// Kind of the topmost of new, fix, dup, st1, st2, dst and fst; "" when there is none, or without
-  /// Settings.ini. Reads the file from its end, so it costs the length of the top stretch alone.
+  /// Settings.ini. Reads the file from its end, so it costs the length of the top stretch alone. Throws
+  /// FileError.
   std::string lastUndoMarker() const;
 
   bool exists() const;

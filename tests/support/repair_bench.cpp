@@ -25,7 +25,7 @@ std::string joined(std::initializer_list<TextView> texts) {
 
 }  // namespace
 
-void RepairBench::add(const std::vector<Song>& songs) {
+void RepairHouse::add(const std::vector<Song>& songs) {
   for (const Song& song : songs) {
     Bytes bytes;
     if (given(song.second)) bytes += Id3v2Maker().values(song.second).padding(300).bytes();
@@ -38,27 +38,27 @@ void RepairBench::add(const std::vector<Song>& songs) {
   ASSERT_EQ(program.table().brojfajlova(), static_cast<int>(songs.size()));
 }
 
-void RepairBench::select(const std::vector<Text>& names) {
+void RepairHouse::select(const std::vector<Text>& names) {
   std::vector<int> indexes;
   for (const Text& name : names) indexes.push_back(rowOf(name) - 1);
   std::ranges::sort(indexes);
   form1().List4.select(indexes, indexes.empty() ? -1 : indexes.back());
 }
 
-void RepairBench::selectAll() {
+void RepairHouse::selectAll() {
   std::vector<int> indexes;
   for (int index = 0; index < form1().List4.ListCount(); ++index) indexes.push_back(index);
   form1().List4.select(indexes, 0);
 }
 
-void RepairBench::click(ui::Button& button) {
+void RepairHouse::click(ui::Button& button) {
   EXPECT_TRUE(button.enabled());
   button.click();
   EXPECT_TRUE(form1().enabled());
   EXPECT_FALSE(program.windows().dialog1.visible());
 }
 
-std::vector<std::string> RepairBench::names() const {
+std::vector<std::string> RepairHouse::names() const {
   std::vector<std::string> names;
   for (const auto& entry :
        const_cast<system::PosixFiles&>(program.files).list(program.folder.path(u"music/in")).entries)
@@ -67,7 +67,7 @@ std::vector<std::string> RepairBench::names() const {
   return names;
 }
 
-std::vector<std::string> RepairBench::listed() {
+std::vector<std::string> RepairHouse::listed() {
   std::vector<std::string> names;
   for (int row = 1; row <= program.table().brojfajlova(); ++row) {
     EXPECT_EQ(form1().List4.List(row - 1), program.table().path(row));
@@ -77,28 +77,28 @@ std::vector<std::string> RepairBench::listed() {
   return names;
 }
 
-int RepairBench::rowOf(TextView name) {
+int RepairHouse::rowOf(TextView name) {
   for (int row = 1; row <= program.table().rows(); ++row)
     if (core::paths::bareName(program.table().path(row)) == name) return row;
   ADD_FAILURE() << "not in the list: " << core::toBytes(name);
   return 0;
 }
 
-std::string RepairBench::first(TextView name) {
+std::string RepairHouse::first(TextView name) {
   tags::cMP3ID3v1 tag(program.files);
   tag.setMP3File(pathOf(name));
   if (!tag.HasID3v1Tag()) return "none";
   return joined({tag.Artist, tag.Title, tag.Album, tag.Year}) + '|' + std::to_string(tag.Track);
 }
 
-std::string RepairBench::second(TextView name) {
+std::string RepairHouse::second(TextView name) {
   tags::cMP3ID3v2 tag(program.files);
   tag.setMP3File(pathOf(name));
   if (!tag.HasID3v2Tag()) return "none";
   return joined({tag.Artist(), tag.Title(), tag.Album(), tag.Year(), tag.Track()});
 }
 
-std::vector<std::string> RepairBench::kinds() const {
+std::vector<std::string> RepairHouse::kinds() const {
   auto& files = const_cast<system::PosixFiles&>(program.files);
   const review::UndoJournal journal(files, program.settings, program.folder.path(u"program/UndoData.txt"));
   std::vector<std::string> kinds;

@@ -12,8 +12,8 @@ namespace velmora::test {
 
 /// The Processing Window with a few songs in its list, and the words to say what happens to them. Names are
 /// those of the files, without folder and extension.
-class RepairBench : public testing::Test {
- protected:
+class RepairHouse {
+ public:
   /// A song for `add`; it has those tags that are given.
   struct Song {
     Text name;
@@ -47,5 +47,8 @@ class RepairBench : public testing::Test {
 
   HeadlessVelmora program;
 };
+
+/// The same as the ground of a test.
+class RepairBench : public testing::Test, protected RepairHouse {};
 
 }  // namespace velmora::test

@@ -49,6 +49,7 @@ Answer ScriptedDialogs::message(const Text& text, const Text& title, platform::B
   shown.push_back(text);
   lastIcon = icon;
   lastButtons = buttons;
+  if (otherwise && (script_.empty() || script_.front().kind != Kind::Message)) return otherwise(buttons);
   if (const auto expected = take(Kind::Message, text, title)) return expected->answer;
   switch (buttons) {
     case platform::Buttons::Ok:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ class ScriptedDialogs final : public platform::Dialogs {
   void expectInput(Text prompt, Text title, std::optional<Text> answer);
   /// The next folder picker with this title gets this answer.
   void expectFolder(Text title, std::optional<Text> answer);
+
+  /// Answers every message that is not expected, where the test gives it: no dialog is a failure then.
+  std::function<platform::Answer(platform::Buttons)> otherwise;
 
   /// The messages shown so far, and the icon of the last.
   std::vector<Text> shown;
