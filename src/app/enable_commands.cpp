@@ -15,7 +15,6 @@ void enableCommands(House& house) {
   ui::Form1& form1 = house.windows.form1;
   const bool hasRows = table.brojfajlova() >= 1;
   const bool musicView = form1.muzickiFajlovi.chosen();
-  const bool hasCurrentRow = table.currentRow >= 1 && table.currentRow <= table.workingRows();
 
   form1.newList.setEnabled(hasRows || !table.niznomusic.empty() || !table.bazepesama.empty());
   form1.add.setEnabled(!form1.folderTree.path().empty());
@@ -23,18 +22,22 @@ void enableCommands(House& house) {
   form1.assort.setEnabled(hasRows);
   const bool songsView = table.vrsta == artistListView;
   house.repair.fields.selectionChanged(musicView && !songsView && form1.List4.SelCount() > 1);
-  const bool selected = musicView && form1.List4.SelCount() > 0;
+  const int files = musicView ? form1.List4.SelCount() : 0;
+  const bool selected = files > 0;
+  const bool songs = songsView && form1.List2.SelCount() > 0;
+  // A single file takes what stands in the panel, which must be its own.
+  const bool shown = house.panel.shows(table.currentRow);
   const bool writes = form1.tags.writeID3v1.checked() || form1.tags.writeID3v2.checked();
-  form1.update.setEnabled(musicView && hasCurrentRow && writes);
+  form1.update.setEnabled(writes && (songsView ? songs && shown : selected && (files > 1 || shown)));
 
   ui::RepairTools& tools = form1.repair;
   for (ui::Button* batch : {&tools.id3ToFn, &tools.fixSyntax, &tools.removeString, &tools.removeTrackNumber,
                             &tools.removeYearNumber, &tools.replaceArtistTitle, &tools.undoName})
     batch->setEnabled(selected);
-  tools.fnToId3.setEnabled(writes && (songsView ? form1.List2.SelCount() > 0 : selected));
-  tools.rename.setEnabled(musicView && hasCurrentRow);
+  tools.fnToId3.setEnabled(writes && (songsView ? songs : selected));
+  tools.rename.setEnabled(selected && (files > 1 || shown));
   tools.renameFiles.setVisible(songsView);
-  tools.renameFiles.setEnabled(form1.List2.SelCount() > 0);
+  tools.renameFiles.setEnabled(songs);
   tools.deleteFiles.setEnabled(form1.List4.SelCount() > 0);
 }
 

@@ -94,6 +94,8 @@ void finishForm1(House& house) {
   house.table.puniliste = 0;
   guarded([&] { house.processing.fillGenres(); });
   enableCommands(house);
+  // What is selected again is shown again.
+  if (house.table.vrsta == 0) guarded([&] { raise(house.windows.form1.List4.onClick); });
 }
 
 }  // namespace

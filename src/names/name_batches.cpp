@@ -139,8 +139,9 @@ Text NameBatches::nameFromTag(int row) {
 void NameBatches::rename() {
   const std::vector<int> rows = parts_.frame.selectedRows();
   if (rows.size() <= 1) {
+    // The name box belongs to the current row, which the panel shows.
     const int row = parts_.table.currentRow;
-    if (row < 1 || row > parts_.table.workingRows()) return;
+    if (rows.empty() || !parts_.panel.shows(row)) return;
     return parts_.frame.run(u"Renaming ...", {row}, [this](int only) { return renameFromBox(only); });
   }
   parts_.frame.run(u"Renaming ...", rows, [this](int row) {

@@ -28,12 +28,15 @@ void TagBatches::fromNames() {
 }
 
 void TagBatches::update() {
-  const std::vector<int> rows = parts_.frame.selectedRows();
+  const bool songs = parts_.table.vrsta == artistListView;
+  const std::vector<int> rows = songs ? parts_.frame.selectedSongs() : parts_.frame.selectedRows();
+  if (rows.empty()) return;
   ui::Button& button = parts_.form1.update;
   button.setEnabled(false);
-  if (rows.size() < 2 || parts_.table.vrsta == artistListView) {
+  if (rows.size() < 2 || songs) {
+    // The tag boxes belong to the current row, which the panel shows.
     const int row = parts_.table.currentRow;
-    if (parts_.table.hasRow(row))
+    if (parts_.panel.shows(row))
       parts_.frame.run(u"Update ID3 Tags ...", {row}, [this](int) {
         parts_.tagWriter.UpdateTags();
         return true;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/number_text.h"
+#include "list/quiet_lists.h"
 
 namespace velmora::player {
 
@@ -56,8 +57,13 @@ void PreviewPlayer::List4DoubleClick() {
   if (parts_.table.puniliste == 1 || index < 0) return;
   if (form1.ostali.chosen())
     parts_.desktop.openWithDefaultProgram(form1.List4.List(index));
-  else
-    playRow(index + 1);
+  else {
+    const int row = index + 1;
+    playRow(row);
+    // The panel shows the played file, so the name box must not keep another one's.
+    const list::QuietLists quietly(parts_.table);
+    if (parts_.table.hasRow(row)) parts_.panel.showName(row);
+  }
 }
 
 void PreviewPlayer::play() {

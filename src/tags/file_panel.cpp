@@ -167,4 +167,8 @@ void FilePanel::clear() {
   for (ui::TextBox* box : {&form1_.Text1, &form1_.Text8, &form1_.Text5}) box->setText({});
 }
 
+bool FilePanel::shows(int row) const {
+  return table_.hasRow(row) && form1_.path.text() == table_.path(row);
+}
+
 }  // namespace velmora::tags

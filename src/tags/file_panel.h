@@ -43,6 +43,9 @@ class FilePanel {
   void showName(int row);
   /// Blanks all labels and boxes.
   void clear();
+  /// Whether what stands in the panel belongs to this row: not after `clear`, nor when another row became
+  /// the current one with its tags alone read.
+  bool shows(int row) const;
 
  private:
   struct View {

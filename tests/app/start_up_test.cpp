@@ -157,7 +157,7 @@ TEST_F(StartUpTest, SelectionComesBackExceptInTheArtistReview) {
   EXPECT_EQ(program.form1().List4.selectedIndexes(), (std::vector<int>{0, 2}));
   EXPECT_EQ(program.form1().List4.TopIndex(), 1);
   EXPECT_EQ(program.table().puniliste, 0);
-  EXPECT_EQ(program.table().currentRow, 0) << "clicks are kept quiet meanwhile";
+  EXPECT_EQ(program.table().currentRow, 3) << "the panel shows it again";
 
   program.settings.set(u"vrsta", u" 3");
   test::HeadlessVelmora artists;

@@ -61,6 +61,42 @@ TEST_F(TagBatches, UpdateWritesTheBoxesOfOneFile) {
   EXPECT_EQ(first(u"a"), "|x|Old||0");
 }
 
+// An Add that reads tags leaves the last file it read as the current row, behind a blank panel.
+TEST_F(TagBatches, ABlankPanelIsWrittenToNoFile) {
+  program.settings.set(u"ex7", u" 1");
+  program.settings.set(u"DirZaBazu", program.folder.path(u"base"));
+  add({{u"a", {.title = u"x"}}, {u"b", {.title = u"y"}}});
+  ASSERT_GT(program.table().currentRow, 0);
+  mark(true, true);
+  const auto expectNothingHappens = [this](ui::Button& button) {
+    button.setEnabled(true);
+    button.click();
+    EXPECT_TRUE(kinds().empty());
+    EXPECT_EQ(names(), (Names{"a", "b"}));
+    EXPECT_EQ(first(u"a") + first(u"b"), "|x|||0|y|||0");
+  };
+  form1().tags.writeID3v1.onClick();
+  for (ui::Button* button : {&form1().update, &tools().rename}) {
+    EXPECT_FALSE(button->enabled());
+    expectNothingHappens(*button);
+  }
+  // The same where code selects a file without showing it.
+  program.table().puniliste = 1;
+  form1().List4.select({0}, 0);
+  program.table().puniliste = 0;
+  form1().tags.writeID3v1.onClick();
+  for (ui::Button* button : {&form1().update, &tools().rename}) {
+    EXPECT_FALSE(button->enabled());
+    expectNothingHappens(*button);
+  }
+  select({u"b"});
+  EXPECT_TRUE(form1().update.enabled());
+  EXPECT_TRUE(tools().rename.enabled());
+  form1().List4.select({}, 1);
+  EXPECT_FALSE(form1().update.enabled()) << "the panel still shows the file, but it is no longer selected";
+  EXPECT_FALSE(tools().rename.enabled());
+}
+
 TEST_F(TagBatches, TickedBoxesGoOntoAllSelectedFilesAndTheOthersLeaveEachItsOwn) {
   add({{u"a", {.title = u"one", .artist = u"A"}}, {u"b", {.title = u"two", .artist = u"B"}}, {u"c"}});
   select({u"a", u"b"});

@@ -73,6 +73,14 @@ TEST_F(PreviewPlayerTest, DoubleClickPlaysTheRowAndShowsIt) {
   EXPECT_EQ(form1_.path.text(), paths_[1]);
 }
 
+TEST_F(PreviewPlayerTest, ThePanelShowsThePlayedFileWithItsOwnName) {
+  form1_.Text1.setText(u"a - one");
+  form1_.List4.setListIndex(1);
+  player_.List4DoubleClick();
+  EXPECT_EQ(form1_.path.text(), paths_[1]);
+  EXPECT_EQ(form1_.Text1.text(), u"b - two");
+}
+
 TEST_F(PreviewPlayerTest, DoubleClickIsQuietWhileListsAreRefilled) {
   form1_.List4.select({1}, 1);
   table_.puniliste = 1;
