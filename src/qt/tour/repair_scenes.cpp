@@ -45,6 +45,22 @@ void closeMenu() {
   if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) menu->close();
 }
 
+void addDelete(Stage& stage, ui::Windows& windows) {
+  const auto before = std::make_shared<int>();
+  stage.when(idle(windows), [&windows, before] {
+    *before = windows.form1.List4.ListCount();
+    Stage::press("Delete");
+  });
+  stage.picture("delete-question", [] { return QApplication::activeModalWidget() != nullptr; });
+  stage.then([] { Stage::answer("OK"); });
+  const auto lists = [&windows, ready = idle(windows)](int files) {
+    return ready() && windows.form1.List4.ListCount() == files;
+  };
+  stage.picture("deleted", [before, lists] { return lists(*before - 4); });
+  stage.when(undoStands(windows, true), undoFromList);
+  stage.picture("undeleted", [before, lists] { return lists(*before); });
+}
+
 }  // namespace
 
 void addRepair(Stage& stage, ui::Windows& windows) {
@@ -61,7 +77,7 @@ void addRepair(Stage& stage, ui::Windows& windows) {
   });
   stage.picture("syntax-fixed", undoStands(windows, true));
   stage.then([] { Stage::press("Album for all selected files"); });
-  stage.when(idle(windows), [] { Stage::type("Album", "An album from the tour"); });
+  stage.when(idle(windows), [] { Stage::type("Album", "Harbour Lights, Disc 1"); });
   stage.then([] { Stage::press("UPDATE"); });
   stage.picture("album-written", idle(windows));
   stage.then([] { Stage::press("Album for all selected files"); });
@@ -70,8 +86,9 @@ void addRepair(Stage& stage, ui::Windows& windows) {
   stage.picture("undone", [&windows, before, ready = idle(windows)] {
     return ready() && windows.form1.List4.List(0) == *before;
   });
-  stage.when(idle(windows), [&windows] { windows.form1.List4.doubleClick(); });
-  stage.picture("playing", [&windows] { return windows.form1.player.position.share() > 0; });
+  addDelete(stage, windows);
+  stage.when(idle(windows), [] { Stage::doubleClickRow("Files", 3); });
+  stage.picture("playing", [&windows] { return windows.form1.player.time.text() >= u"00:02"; });
   stage.then([] { Stage::press("Stop"); });
 }
 

@@ -66,7 +66,7 @@ void addList(Stage& stage, ui::Windows& windows, const QString& music) {
   stage.picture("artist-completion", [] { return Stage::find("Artists") != nullptr; });
   stage.then([] { QTest::keyClick(Stage::find("File name"), Qt::Key_Escape); });
   stage.then([] { Stage::clickRow("Files", 2); });
-  stage.then([] { Stage::type("Title", "A title from the tour"); });
+  stage.then([] { Stage::type("Title", "Paper Boats (live)"); });
   stage.then([&windows] {
     if (!windows.form1.tags.writeID3v2.checked()) Stage::press("Write ID3v2");
   });
@@ -128,11 +128,17 @@ void addBase(Stage& stage, ui::Windows& windows, const QString& music) {
 
 }  // namespace
 
-Crowd::Crowd(const QString& music) : folder_(music + "/Large collection XXXXXX") {
+Crowd::Crowd(const QString& music)
+    : folder_(music + "/Large collection"), made_(!folder_.exists() && QDir().mkpath(folder_.path())) {
+  if (!made_) return;
   for (int i = 0; i < crowdSize; ++i) {
     QFile file(QStringLiteral("%1/Artist %2 - Title %3.mp3").arg(folder_.path()).arg(i % 700).arg(i));
     if (!file.open(QIODevice::WriteOnly)) return;
   }
+}
+
+Crowd::~Crowd() {
+  if (made_) folder_.removeRecursively();
 }
 
 void addFirstVisit(Stage& stage, ui::Windows& windows, const QString& music, const QString& crowd) {

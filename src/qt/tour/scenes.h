@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTemporaryDir>
+#include <QDir>
 
 #include "qt/tour/stage.h"
 #include "ui/windows.h"
@@ -12,10 +12,14 @@ namespace velmora::qt {
 class Crowd {
  public:
   explicit Crowd(const QString& music);
+  ~Crowd();
+  Crowd(const Crowd&) = delete;
+  Crowd& operator=(const Crowd&) = delete;
   QString folder() const { return folder_.path(); }
 
  private:
-  QTemporaryDir folder_;
+  QDir folder_;
+  bool made_;
 };
 
 /// From the first start to a list of new music, and through all windows.

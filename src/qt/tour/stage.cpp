@@ -26,6 +26,7 @@ constexpr int paintTicks = 12;
 constexpr int patienceTicks = 1000;
 constexpr int margin = 24;
 constexpr int shadow = 12;
+constexpr int barHeight = 30;
 
 QString plain(QString text) {
   return text.remove(u'&');
@@ -43,6 +44,25 @@ QList<QWidget*> windowsInSight() {
   };
   std::ranges::stable_sort(windows, {}, height);
   return windows;
+}
+
+// The virtual display has nobody who gives windows a title bar.
+QRect titleBar(const QWidget* window) {
+  const bool hasTitle = !window->windowTitle().isEmpty() && window->windowType() != Qt::Popup;
+  const QRect place = window->geometry();
+  return {place.left(), place.top() - barHeight, place.width(), hasTitle ? barHeight : 0};
+}
+
+void paintTitleBar(QPainter& painter, const QWidget* window) {
+  const QRect bar = titleBar(window);
+  if (bar.isEmpty()) return;
+  const QPalette palette = window->palette();
+  QFont font = window->font();
+  font.setBold(true);
+  painter.fillRect(bar, palette.color(QPalette::Window).darker(112));
+  painter.setFont(font);
+  painter.setPen(palette.color(QPalette::WindowText));
+  painter.drawText(bar, Qt::AlignCenter, window->windowTitle());
 }
 
 void paintShadow(QPainter& painter, const QRect& window) {
@@ -107,7 +127,7 @@ void Stage::tick() {
 void Stage::save(const QString& name) {
   const QList<QWidget*> windows = windowsInSight();
   QRect all;
-  for (const QWidget* window : windows) all |= window->geometry();
+  for (const QWidget* window : windows) all |= window->geometry() | titleBar(window);
   all.adjust(-margin, -margin, margin, margin);
   const qreal ratio = qApp->devicePixelRatio();
   QPixmap picture(all.size() * ratio);
@@ -117,7 +137,9 @@ void Stage::save(const QString& name) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(-all.topLeft());
   for (QWidget* window : windows) {
-    paintShadow(painter, window->geometry());
+    const QRect bar = titleBar(window);
+    paintShadow(painter, bar.isEmpty() ? window->geometry() : window->geometry() | bar);
+    paintTitleBar(painter, window);
     painter.drawPixmap(window->geometry().topLeft(), window->grab());
   }
   painter.end();
@@ -174,6 +196,14 @@ void Stage::clickRow(const QString& list, int row, Qt::KeyboardModifiers modifie
   const QModelIndex index = view->model()->index(row, 0);
   view->scrollTo(index);
   QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, view->visualRect(index).center());
+}
+
+void Stage::doubleClickRow(const QString& list, int row) {
+  clickRow(list, row);
+  auto* view = qobject_cast<QAbstractItemView*>(find(list));
+  if (!view) return;
+  const QPoint place = view->visualRect(view->model()->index(row, 0)).center();
+  QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, place);
 }
 
 void Stage::type(const QString& box, const QString& text) {

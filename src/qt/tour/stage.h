@@ -49,6 +49,8 @@ class Stage : public QObject {
   static void choose(const QString& entry);
   /// Clicks a row of a list.
   static void clickRow(const QString& list, int row, Qt::KeyboardModifiers modifiers = {});
+  /// Clicks a row twice.
+  static void doubleClickRow(const QString& list, int row);
   /// Replaces the text of a box key by key.
   static void type(const QString& box, const QString& text);
 
