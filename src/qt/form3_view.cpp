@@ -14,8 +14,7 @@ namespace {
 
 constexpr QSize designSize(1100, 680);
 constexpr int pictureSize = 24 * unit;
-constexpr int textWidth = 130 * unit;
-constexpr int textLines = 3;
+constexpr int charactersPerLine = 96;
 
 }  // namespace
 
@@ -61,7 +60,7 @@ QWidget* Form3View::makeWelcome(Refresher& refresher, ui::Form3& form3) {
   auto* text = new QLabel;
   text->setWordWrap(true);
   text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-  text->setFixedSize(textWidth, text->fontMetrics().lineSpacing() * textLines);
+  text->setFixedWidth(text->fontMetrics().averageCharWidth() * charactersPerLine);
   layout->addWidget(title, 0, Qt::AlignHCenter);
   layout->addWidget(text, 0, Qt::AlignHCenter);
   auto* root = described(new ElidedLabel, "Music Base folder", "The folder of your Music Base");
@@ -83,7 +82,7 @@ QWidget* Form3View::makeWelcome(Refresher& refresher, ui::Form3& form3) {
   steps->addStretch();
   layout->addLayout(steps);
 
-  refresher.watch(form3.rootLabel, page, [&form3, title, text, process, choose] {
+  refresher.watch(form3.rootLabel, page, [&form3, title, text, root, process, choose] {
     const bool chosen = !form3.rootLabel.text().empty();
     title->setText(chosen ? "Your Music Base" : "Welcome to Velmora");
     text->setText(chosen
@@ -91,6 +90,9 @@ QWidget* Form3View::makeWelcome(Refresher& refresher, ui::Form3& form3) {
                         "over, and put their names and tags right."
                       : "Choose the folder that holds your collection, or an empty one where it shall grow. "
                         "You can also begin with new music right away and choose the folder later.");
+    // A layout that centres a label asks for the height of one line.
+    text->setFixedHeight(text->heightForWidth(text->width()));
+    root->setVisible(chosen);
     (chosen ? process : choose)->setFocus();
   });
   return page;

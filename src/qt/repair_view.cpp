@@ -86,6 +86,7 @@ QWidget* makeRepairBar(Refresher& refresher, ui::Form1& form1) {
   more->setArrowType(Qt::DownArrow);
   more->setStyleSheet("QToolButton::menu-indicator { image: none; }");  // the arrow says it
   more->setAutoRaise(true);
+  more->setFixedWidth(6 * unit);  // close to the button that it belongs to
   auto* menu = new QMenu(more);
   for (const Command& command : {undoNameCommand, restoreCommand})
     menu->addAction(action(refresher, tools, command, menu));

@@ -3,7 +3,8 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
+
+#include "qt/clear_frames.h"
 
 namespace velmora::qt {
 
@@ -40,10 +41,9 @@ QPalette paletteOf(const Colours& colours) {
 
 void applyTheme(QApplication& application) {
   const QByteArray theme = qgetenv("VELMORA_THEME");
-  if (theme == "dark" || theme == "light") {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    application.setPalette(paletteOf(theme == "dark" ? dark : light));
-  }
+  const bool own = theme == "dark" || theme == "light";
+  if (own || wantsClearFrames(*QApplication::style())) QApplication::setStyle(new ClearFrames);
+  if (own) QApplication::setPalette(paletteOf(theme == "dark" ? dark : light));
   // The icons of message boxes and file dialogs, where the desktop has none of its own.
   const QString icons = QIcon::themeName();
   const bool isDark = application.palette().color(QPalette::Window).lightness() < 128;

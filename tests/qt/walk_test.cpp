@@ -24,7 +24,7 @@ using testing::ElementsAre;
 class WalkTest : public testing::Test {
  protected:
   WalkTest() {
-    folder.write(u"state/Settings.ini", "\"AKTIVNIPROZOR   1\"\r\n\"SHOWTIPSASSTARTUP  False\"\r\n");
+    folder.write(u"state/Settings.ini", settings);
     qputenv("VELMORA_HOME", folder.native(u"state").c_str());
     qputenv("XDG_DATA_HOME", folder.native(u"data").c_str());
     for (int i = 0; i < songs; ++i) {
@@ -94,6 +94,7 @@ class WalkTest : public testing::Test {
   }
 
   static constexpr int songs = 200;
+  const Bytes settings = "\"AKTIVNIPROZOR   1\"\r\n\"SHOWTIPSASSTARTUP  False\"\r\n";
   test::TempFolder folder;
   QObject asked;
   QString question;
@@ -164,8 +165,11 @@ TEST_F(WalkTest, TheSameFolderTwiceIsRefusedInWords) {
 }
 
 TEST_F(WalkTest, StopAndTheEndReachARunningCommand) {
-  for (int i = 0; i < 3000; ++i) folder.write(u"many/Artist - Song " + numbered(i) + u".mp3", "");
+  for (int i = 0; i < 3000; ++i) folder.write(u"many/Artist - Song " + numbered(i) + u".mp3", "no audio");
+  folder.write(u"state/Settings.ini", settings + "\"DIRZABAZU   " + folder.native(u"base") + "\"\r\n");
   start();
+  // All tags are read at once, which takes more than one turn of events.
+  program->velmora().windows().form5.refreshOldMusicList.setChecked(true);
   QTimer waiting;
   int refused = 0;
   QObject::connect(&waiting, &QTimer::timeout, [&] {
