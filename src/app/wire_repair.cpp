@@ -45,7 +45,11 @@ void wireUndo(House& house) {
   ui::Form1& form1 = house.windows.form1;
   ui::RepairTools& tools = form1.repair;
   RepairRoom& room = house.repair;
-  tools.undoLastOperation.onClick = command(house, form1, [&room] { room.undoCommands.undoLastOperation(); });
+  tools.undoLastOperation.onClick = command(house, form1, [&house, &room, &form1] {
+    room.undoCommands.undoLastOperation();
+    // Files that came back are selected again, and the panel shows what is selected.
+    if (!house.panel.shows(house.table.currentRow)) raise(form1.List4.onClick);
+  });
   tools.undo.onClick = [&tools] { tools.undoLastOperation.click(); };
   tools.restoreAllChanges.onClick = command(house, form1, [&room] { room.undoCommands.restoreAllChanges(); });
   tools.undoName.onClick = command(house, form1, [&room] {

@@ -46,6 +46,7 @@ TEST_F(DeleteFilesTest, SelectedFilesGoToTheTrashAndComeBack) {
   EXPECT_EQ(infoFiles(), 0U) << "no stale info file is left";
   EXPECT_EQ(program.table().velicinasfiles, bytes);
   EXPECT_EQ(form1().List4.SelCount(), 2);
+  EXPECT_EQ(form1().path.text(), pathOf(u"c - three")) << "what is selected again is shown again";
   EXPECT_EQ(kinds(), Names{});
   EXPECT_FALSE(tools().undoLastOperation.enabled());
 }
