@@ -11,7 +11,8 @@ namespace velmora::base {
 Text StanjeLista(const ui::Form3& form3);
 
 /// Puts back what such a text tells, column by column, so that each column is filled by the selection before
-/// it. Run it under `puniliste`. A row number past the end of its list ends the restoring.
+/// it; what is selected already stays so. Run it under `puniliste`; the titles of the selected albums are
+/// listed all the same. A row number past the end of its list ends the restoring.
 void restoreLists(ui::Form3& form3, core::TrackTable& table, TextView state);
 
 }  // namespace velmora::base

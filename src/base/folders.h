@@ -1,5 +1,7 @@
 #pragma once
 
+#include <set>
+
 #include "core/track_table.h"
 #include "platform/files.h"
 #include "review/undo_journal.h"
@@ -21,10 +23,13 @@ class Folders {
   bool PostojiDir(TextView path);
   /// Makes the folder when it is missing; the journal is not told. Throws FileError.
   void EnsureFolder(TextView path);
-  /// Removes a folder and its subfolders as far as they hold no files. Throws FileError.
+  /// Removes a folder and its subfolders as far as they hold no files; below a folder that holds one, nothing
+  /// is changed. A missing folder is no failure. Throws FileError.
   void RemoveEmptyTree(TextView path);
 
  private:
+  void removeEmpty(const Text& folder, std::set<platform::FolderId>& walked);
+
   Parts parts_;
 };
 

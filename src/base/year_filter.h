@@ -8,17 +8,20 @@
 
 namespace velmora::base {
 
-/// The frame "Select Years": which years an album folder may bear in its name to be shown.
+/// The frame "Select Years": which years an album folder may bear in its name to be shown. What is applied
+/// is what the settings hold; the list may differ from it while the frame is open.
 class YearFilter {
  public:
   YearFilter(core::Settings& settings, ui::Form3& form3) : settings_(settings), form3_(form3) {}
 
+  /// What the progress window says while another choice is applied.
+  static constexpr TextView busyText = u"Searching Folders With Selected Years In Name...";
   /// Raised when another choice was applied: the base is to be listed anew.
   std::function<void()> onApplied;
 
   /// Fills the list for the current year and selects what was stored.
   void load(int currentYear);
-  /// Whether no filter is in force: "<<Show All Years>>" is selected.
+  /// Whether no filter is in force: "<<Show All Years>>" is selected, whatever else is.
   bool allYears() const;
   /// Whether a folder of this name or path is to be shown; asks the years alone.
   bool passes(TextView folder) const;
@@ -30,8 +33,12 @@ class YearFilter {
   void cancel();
 
  private:
+  void selectStored(bool yearsPutAllOut);
+  void colourButton();
+
   core::Settings& settings_;
   ui::Form3& form3_;
+  int currentYear_ = 0;
 };
 
 }  // namespace velmora::base

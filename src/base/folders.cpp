@@ -1,0 +1,55 @@
+#include "base/folders.h"
+
+#include <algorithm>
+
+#include "base/base_tree.h"
+#include "core/paths.h"
+#include "core/text.h"
+#include "platform/file_error.h"
+
+namespace velmora::base {
+
+using platform::FileError;
+
+namespace {
+
+constexpr int newMusicWindow = 2;
+
+}  // namespace
+
+bool Folders::PostojiDir(TextView path) {
+  const Text folder(withoutSeparator(path));
+  if (parts_.files.folderExists(folder)) return true;
+  if (parts_.table.aktivniprozor == newMusicWindow)
+    parts_.journal.appendUndoRecord("mkd", core::trim(folder), {});
+  parts_.files.makeFolder(folder);
+  return false;
+}
+
+void Folders::EnsureFolder(TextView path) {
+  parts_.files.makeFolder(Text(withoutSeparator(path)));
+}
+
+void Folders::RemoveEmptyTree(TextView path) {
+  std::set<platform::FolderId> walked;
+  removeEmpty(Text(withoutSeparator(path)), walked);
+}
+
+void Folders::removeEmpty(const Text& folder, std::set<platform::FolderId>& walked) {
+  if (!parts_.files.folderExists(folder)) return;
+  const platform::FolderListing listing = parts_.files.list(folder);
+  const bool holdsFile = std::ranges::any_of(listing.entries, [](const platform::FolderEntry& entry) {
+    return entry.kind != platform::EntryKind::Folder;
+  });
+  if (holdsFile || !walked.insert(listing.id).second) return;
+  for (const platform::FolderEntry& entry : listing.entries)
+    removeEmpty(core::paths::join(folder, entry.name), walked);
+  try {
+    parts_.files.removeEmptyFolder(folder);
+  } catch (const FileError& error) {
+    // It is not empty, or a link, which is no folder of its own.
+    if (error.number != FileError::pathAccess && error.number != FileError::pathNotFound) throw;
+  }
+}
+
+}  // namespace velmora::base

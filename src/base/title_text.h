@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/text.h"
+
+namespace velmora::base {
+
+/// What the column of titles shows of a file's name: the name without its last four characters, and without
+/// its artist part unless "Show Artist In Title List" is checked.
+class TitleText {
+ public:
+  /// `artists` are the selected ones in the order of their rows.
+  TitleText(bool withArtist, std::vector<Text> artists);
+  TitleText(const TitleText&) = delete;
+  TitleText& operator=(const TitleText&) = delete;
+
+  /// The artist part ends at the first "-" behind the last of the artists that occurs in the name. A name
+  /// that holds none of them loses its first character instead.
+  Text of(TextView fileName) const;
+
+ private:
+  int dashOf(TextView fileName) const;
+
+  bool withArtist_;
+  std::vector<Text> artists_;
+  // Artists by the first characters of their names, the last row first, so that a name is looked through once
+  // however many artists are selected.
+  std::unordered_map<TextView, std::vector<std::size_t>> byStart_;
+};
+
+}  // namespace velmora::base

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "base/base_lists.h"
+#include "base/folders.h"
+#include "base/new_folders.h"
+#include "core/text.h"
+#include "system/posix_files.h"
+#include "tests/support/fault_files.h"
+#include "tests/support/scripted_desktop.h"
+#include "tests/support/scripted_dialogs.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/tree_snapshot.h"
+#include "ui/progress.h"
+#include "ui/windows.h"
+
+namespace velmora::test {
+
+using Names = std::vector<std::string>;
+
+/// A Music Base on the real disk, and the rooms that browse and change it, wired as the program wires them.
+struct BaseWorld : testing::Test {
+  TempFolder folder;
+  system::PosixFiles disk;
+  FaultFiles files{disk};
+  ScriptedDialogs dialogs;
+  ScriptedDesktop desktop;
+  ui::Windows windows;
+  core::TrackTable table;
+  core::Settings settings{disk, folder.path(u"Settings.ini")};
+  review::UndoJournal journal{disk, settings, folder.path(u"UndoData.txt")};
+  ui::Progress progress{table, windows, desktop};
+  ui::Form3& form3 = windows.form3;
+  base::LastPosition positions{disk, folder.path(u"LastPosition.dat")};
+  base::YearFilter years{settings, form3};
+  base::BaseLists lists{{.table = table,
+                         .settings = settings,
+                         .files = files,
+                         .desktop = desktop,
+                         .form3 = form3,
+                         .positions = positions,
+                         .years = years}};
+  base::Folders folders{{.table = table, .files = files, .journal = journal}};
+  base::NewFolders newFolders{
+      {.table = table, .dialogs = dialogs, .form3 = form3, .lists = lists, .folders = folders}};
+  std::vector<Text> played;
+
+  BaseWorld() {
+    table.aktivniprozor = 3;
+    folder.mkdir(u"base");
+    settings.set(u"DirZaBazu", folder.path(u"base"));
+    form3.List1.onClick = [this] { lists.List1Click(); };
+    form3.List2.onClick = [this] { lists.List2Click(); };
+    form3.List3.onClick = [this] { lists.List3Click(); };
+    form3.List8.onClick = [this] { lists.List8Click(); };
+    form3.List3.onMouseUp = [this] { lists.List3MouseUp(); };
+    form3.List8.onDoubleClick = [this] { lists.List8DoubleClick(); };
+    lists.onPlay = [this](const Text& path) { played.push_back(path); };
+    years.load(2026);
+    lists.readRoot();
+  }
+
+  /// Makes files below the base; their content is their first name. A name that ends in "/" is a folder.
+  void make(const std::vector<Text>& names) {
+    for (const Text& name : names) {
+      if (name.ends_with(u'/'))
+        folder.mkdir(u"base/" + name.substr(0, name.size() - 1));
+      else
+        folder.write(u"base/" + name, core::toBytes(name));
+    }
+  }
+  /// The same, and the genres are listed.
+  void show(const std::vector<Text>& names) {
+    make(names);
+    lists.IzlistajBazu();
+  }
+  static int find(const ui::ListBox& list, TextView text) {
+    for (int index = 0; index < list.ListCount(); ++index)
+      if (list.List(index) == text) return index;
+    ADD_FAILURE() << "no row " << core::toBytes(text);
+    return -1;
+  }
+  /// The user clicks these rows, the last of them last.
+  static void click(ui::ListBox& list, const std::vector<Text>& rows) {
+    std::vector<int> indexes;
+    for (const Text& row : rows) indexes.push_back(find(list, row));
+    list.select(indexes, indexes.back());
+  }
+  static Names rows(const ui::ListBox& list) {
+    Names names;
+    for (int index = 0; index < list.ListCount(); ++index) names.push_back(core::toBytes(list.List(index)));
+    return names;
+  }
+  static Names chosen(const ui::ListBox& list) {
+    Names names;
+    for (const int index : list.selectedIndexes()) names.push_back(core::toBytes(list.List(index)));
+    return names;
+  }
+  /// A path below the base.
+  Text at(TextView name) const { return folder.path(u"base/" + Text(name)); }
+  Bytes content(TextView name) const { return folder.read(u"base/" + Text(name)); }
+  bool there(TextView name) const { return folder.exists(u"base/" + Text(name)); }
+  TreeSnapshot snapshot() const { return TreeSnapshot::of(folder.path(u"base")); }
+};
+
+}  // namespace velmora::test
