@@ -38,6 +38,8 @@ void bindOptionButton(Refresher& refresher, ui::OptionButton& model, QAbstractBu
 /// Keeps the cursor in step. While the box has no focus it shows the start of its text.
 void bindTextBox(Refresher& refresher, ui::TextBox& model, QLineEdit* widget);
 void bindComboBox(Refresher& refresher, ui::ComboBox& model, QComboBox* widget);
+/// Of the proposals alone; no other text can be typed.
+void bindChoice(Refresher& refresher, ui::ComboBox& model, QComboBox* widget);
 void bindFolderBox(Refresher& refresher, ui::FolderBox& model, FolderTree* widget);
 void bindSlider(Refresher& refresher, ui::Slider& model, QSlider* widget);
 /// Repaints at once when no events were handled for a while, so that the bar moves during a long command.

@@ -1,6 +1,7 @@
 #include <QLabel>
 
 #include "qt/bind.h"
+#include "qt/colours.h"
 #include "qt/text.h"
 
 namespace velmora::qt {
@@ -24,6 +25,12 @@ void bindLabel(Refresher& refresher, ui::Label& model, QLabel* widget, const QSt
     if (!whenEmpty.isEmpty())
       widget->setForegroundRole(empty ? QPalette::PlaceholderText : QPalette::WindowText);
     widget->setText(empty ? whenEmpty : shown(model.text()).trimmed());
+    if (!model.colour() && !widget->testAttribute(Qt::WA_SetPalette)) return;
+    QPalette palette;
+    if (model.colour())
+      palette.setColor(QPalette::WindowText,
+                       inkFor(*model.colour(), palette.color(QPalette::Window), palette));
+    widget->setPalette(palette);
   });
 }
 

@@ -8,6 +8,7 @@
 
 #include "qt/bind.h"
 #include "qt/keys.h"
+#include "qt/list_drag.h"
 #include "qt/list_model.h"
 #include "qt/list_view.h"
 
@@ -62,6 +63,7 @@ class ListBinding final : public QObject {
                                : QAbstractItemView::SingleSelection);
     view->afterEvent = [this] { deliver(); };
     view->onKey = [this](const QKeyEvent& event) { return key(event); };
+    bindDrag();
     view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -73,12 +75,32 @@ class ListBinding final : public QObject {
   }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    if (object == viewport_ && event->type() == QEvent::MouseButtonPress) pressDelivered_ = false;
-    if (object == view_ && event->type() == QEvent::Show) shown_ = true;
+    const QEvent::Type type = event->type();
+    if (object == viewport_ && type == QEvent::MouseButtonPress) {
+      pressDelivered_ = false;
+      // Rows that cannot be dragged are selected by dragging over them instead.
+      view_->setDragEnabled(!list_.dragWord.empty() || list_.dragFiles);
+    }
+    if (object == viewport_ && type == QEvent::MouseButtonRelease) released_ = true;
+    if (object == viewport_ && type == QEvent::Resize) list_.setVisibleRows(view_->wholeRows());
+    if (object == view_ && type == QEvent::Show) shown_ = true;
     return false;
   }
 
  private:
+  void bindDrag() {
+    view_->setAcceptDrops(true);
+    view_->carried = [this] { return carriedBy(list_); };
+    view_->accepts = [this](const QMimeData& data) {
+      const Text word = wordIn(data);
+      return list_.onDrop && list_.enabled() && !word.empty() &&
+             (list_.dropWord.empty() || list_.dropWord == word);
+    };
+    view_->onDropped = [this](const QMimeData& data) {
+      if (list_.onDrop) list_.onDrop(wordIn(data));
+    };
+  }
+
   void noteSelection() {
     if (refreshing_) return;
     selectionChanged_ = true;
@@ -97,7 +119,10 @@ class ListBinding final : public QObject {
   }
 
   void deliver() {
-    if (std::exchange(shown_, false)) showTop();
+    if (std::exchange(shown_, false)) {
+      list_.setVisibleRows(view_->wholeRows());
+      showTop();
+    }
     // A click that selected nothing new still is a click, once for each press.
     const bool again = std::exchange(clicked_, false) && !pressDelivered_;
     const bool twice = std::exchange(doubleClicked_, false);
@@ -109,6 +134,7 @@ class ListBinding final : public QObject {
       pressDelivered_ = true;
       list_.doubleClick();
     }
+    if (std::exchange(released_, false) && list_.onMouseUp) list_.onMouseUp();
   }
 
   void refresh() {
@@ -163,6 +189,7 @@ class ListBinding final : public QObject {
   bool clicked_ = false;
   bool doubleClicked_ = false;
   bool pressDelivered_ = false;
+  bool released_ = false;
   bool shown_ = false;
 };
 

@@ -41,6 +41,22 @@ void showText(QLineEdit* line, const Text& text) {
   if (!line->hasFocus()) line->home(false);
 }
 
+void bindProposals(Refresher& refresher, ui::ComboBox& model, QComboBox* widget) {
+  bindControl(refresher, model, widget);
+  refresher.watch(model, widget, [&model, widget, rows = std::vector<ui::ComboRow>()]() mutable {
+    const QSignalBlocker quiet(widget);
+    if (rows != model.rows()) {
+      rows = model.rows();
+      widget->clear();
+      for (const ui::ComboRow& row : rows) widget->addItem(shown(row.text));
+    }
+    if (widget->currentText() == toQString(model.text())) return;
+    widget->setCurrentIndex(
+        widget->findText(toQString(model.text()), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    if (widget->lineEdit()) showText(widget->lineEdit(), model.text());
+  });
+}
+
 }  // namespace
 
 void bindTextBox(Refresher& refresher, ui::TextBox& model, QLineEdit* widget) {
@@ -62,21 +78,17 @@ void bindTextBox(Refresher& refresher, ui::TextBox& model, QLineEdit* widget) {
 void bindComboBox(Refresher& refresher, ui::ComboBox& model, QComboBox* widget) {
   widget->setEditable(true);
   widget->setInsertPolicy(QComboBox::NoInsert);
-  bindControl(refresher, model, widget);
-  refresher.watch(model, widget, [&model, widget, rows = std::vector<ui::ComboRow>()]() mutable {
-    const QSignalBlocker quiet(widget);
-    if (rows != model.rows()) {
-      rows = model.rows();
-      widget->clear();
-      for (const ui::ComboRow& row : rows) widget->addItem(shown(row.text));
-    }
-    if (widget->currentText() == toQString(model.text())) return;
-    widget->setCurrentIndex(
-        widget->findText(toQString(model.text()), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    showText(widget->lineEdit(), model.text());
-  });
+  bindProposals(refresher, model, widget);
   QObject::connect(widget, &QComboBox::editTextChanged, widget,
                    [&model](const QString& text) { model.setText(toText(text)); });
+}
+
+void bindChoice(Refresher& refresher, ui::ComboBox& model, QComboBox* widget) {
+  bindProposals(refresher, model, widget);
+  QObject::connect(widget, &QComboBox::activated, widget, [&model](int index) {
+    if (index < static_cast<int>(model.rows().size()))
+      model.setText(model.rows()[static_cast<std::size_t>(index)].text);
+  });
 }
 
 }  // namespace velmora::qt

@@ -1,7 +1,6 @@
 #include "qt/bind_window.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <QApplication>
 #include <QEvent>
@@ -9,22 +8,14 @@
 #include <QWindow>
 
 #include "qt/text.h"
+#include "qt/twips.h"
 
 namespace velmora::qt {
 
 namespace {
 
-constexpr double twipsPerInch = 1440;
 // What the window manager's frame may take beyond the widget itself.
 constexpr QMargins frame(0, 0, 8, 36);
-
-int toTwips(int pixels, double pixelsPerInch) {
-  return static_cast<int>(std::lround(pixels * twipsPerInch / pixelsPerInch));
-}
-
-int toPixels(int twips, double pixelsPerInch) {
-  return static_cast<int>(std::lround(twips * pixelsPerInch / twipsPerInch));
-}
 
 class WindowBinding final : public QObject {
  public:
@@ -76,12 +67,9 @@ class WindowBinding final : public QObject {
     reportPlacement();
   }
 
-  double pixelsPerInch() const { return widget_->screen()->logicalDotsPerInch(); }
-
   ui::Placement placement() const {
-    const double scale = pixelsPerInch();
-    return {toTwips(widget_->x(), scale), toTwips(widget_->y(), scale), toTwips(widget_->width(), scale),
-            toTwips(widget_->height(), scale)};
+    return {toTwips(widget_->x(), widget_), toTwips(widget_->y(), widget_),
+            toTwips(widget_->width(), widget_), toTwips(widget_->height(), widget_)};
   }
 
   void showPlacement() {
@@ -89,9 +77,8 @@ class WindowBinding final : public QObject {
     if (placed_ && (wanted == shown_ || stateOf(widget_) != ui::WindowState::Normal)) return;
     placed_ = true;
     shown_ = wanted;
-    const double scale = pixelsPerInch();
-    QRect place(toPixels(wanted.left, scale), toPixels(wanted.top, scale), toPixels(wanted.width, scale),
-                toPixels(wanted.height, scale));
+    QRect place(toPixels(wanted.left, widget_), toPixels(wanted.top, widget_),
+                toPixels(wanted.width, widget_), toPixels(wanted.height, widget_));
     const bool sized = wanted.width > 0 && wanted.height > 0;
     const bool moved = sized || wanted.left != 0 || wanted.top != 0;
     if (!sized && size_.isEmpty()) return;  // a dialog finds its size and place by itself
@@ -129,6 +116,7 @@ class WindowBinding final : public QObject {
     if (refreshing_ || !widget_->isVisible() || stateOf(widget_) != ui::WindowState::Normal) return;
     shown_ = placement();
     model_.setPlacement(shown_);
+    model_.setFrameHeight(toTwips(widget_->frameGeometry().height() - widget_->height(), widget_));
   }
 
   ui::Window& model_;

@@ -2,100 +2,143 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QStackedWidget>
+#include <QToolButton>
 
 #include "qt/bind.h"
 #include "qt/elided_label.h"
 #include "qt/grid.h"
 #include "qt/icons.h"
+#include "qt/player_bar.h"
+#include "qt/year_popup.h"
 
 namespace velmora::qt {
 
 namespace {
 
 constexpr QSize designSize(1100, 680);
-constexpr int pictureSize = 24 * unit;
-constexpr int charactersPerLine = 96;
+constexpr int playerWidth = 130 * unit;
+
+QWidget* makeBottomBar(Refresher& refresher, ui::Form1& form1) {
+  auto* bar = new QWidget;
+  QHBoxLayout* layout = row(bar);
+  layout->setContentsMargins(gap, tight, gap, tight);
+  QWidget* player = makePlayerBar(refresher, form1);
+  player->setMaximumWidth(playerWidth);
+  layout->addWidget(player, 1);
+  layout->addStretch();
+  return bar;
+}
 
 }  // namespace
 
-Form3View::Form3View(const ViewContext& context, ui::Form3& form3) {
-  makeMenus(context.refresher, form3);
-  setCentralWidget(makeWelcome(context.refresher, form3));
+Form3View::Form3View(const ViewContext& context, ui::Form3& form3, ui::Form1& form1) {
+  Refresher& refresher = context.refresher;
+  makeMenus(refresher, form3);
+
+  auto* hideButtons = new QAction("Show &menu and buttons", this);
+  hideButtons->setShortcut(QKeySequence("Ctrl+M"));
+  hideButtons->setCheckable(true);
+  bindAction(refresher, form3.showMenuAndButtons, hideButtons);
+  addAction(hideButtons);  // its key must work while there is no menu bar
+  QWidget* columns = makeBaseColumns(refresher, form3, hideButtons);
+  QWidget* welcome = makeWelcome(refresher, form3);
+  auto* pages = new QStackedWidget;
+  pages->addWidget(welcome);
+  pages->addWidget(columns);
+  refresher.watch(form3.rootLabel, pages, [&form3, pages, welcome, columns] {
+    QWidget* page = form3.rootLabel.text().empty() ? welcome : columns;
+    if (pages->currentWidget() != page) pages->setCurrentWidget(page);
+  });
+
+  QWidget* topBar = makeTopBar(refresher, form3);
+  auto* content = new QWidget;
+  QVBoxLayout* layout = column(content, 0);
+  layout->addWidget(topBar);
+  layout->addWidget(line());
+  layout->addWidget(pages, 1);
+  layout->addWidget(line());
+  layout->addWidget(makeBottomBar(refresher, form1));
+  setCentralWidget(content);
+  refresher.watch(form3.menuAndButtons, this, [this, &form3, topBar, hideButtons] {
+    menuBar()->setVisible(form3.menuAndButtons.visible());
+    topBar->setVisible(form3.menuAndButtons.visible());
+    hideButtons->setChecked(form3.menuAndButtons.visible());
+  });
   setWindowIcon(programIcon());
   bindWindow(context, form3, this, designSize);
 }
 
 void Form3View::makeMenus(Refresher& refresher, ui::Form3& form3) {
-  const auto add = [&](QMenu* menu, const QString& text, const QString& icon, ui::Button& model) {
+  const auto add = [&](QMenu* menu, const QString& text, const QString& icon, ui::Button& model,
+                       const QString& keys = {}) {
     QAction* action = menu->addAction(icon.isEmpty() ? QIcon() : glyph(icon), text);
+    action->setShortcut(QKeySequence(keys));
     bindAction(refresher, model, action);
-    return action;
+    addAction(action);
   };
   QMenu* base = menuBar()->addMenu("&Music Base");
-  add(base, "&Select main folder for Your Music Base", "music-base", form3.selectMainFolder);
-  add(base, "Show &Processing Window", "processing", form3.showProcessingWindow)
-      ->setShortcut(QKeySequence("Ctrl+P"));
+  add(base, "&Select main folder for Your Music Base", "music-base", form3.selectMainFolder, "Ctrl+O");
   base->addSeparator();
-  add(base, "E&xit", "exit", form3.exit)->setShortcut(QKeySequence("Ctrl+Q"));
+  add(base, "Show &Processing Window", "processing", form3.showProcessingWindow, "Ctrl+P");
+  add(base, "Show &New Music Window", "new-music", form3.showNewMusic, "Ctrl+N");
+  base->addSeparator();
+  add(base, "Select &Years", "calendar", form3.selectYears, "Ctrl+Y");
+  base->addSeparator();
+  add(base, "E&xit", "exit", form3.exit, "Ctrl+Q");
 
   QMenu* options = menuBar()->addMenu("&Options");
-  bindCheckAction(refresher, form3.autoListFocus, options->addAction("&Auto List Focus"));
-  bindCheckAction(refresher, form3.showTips, options->addAction("Show &Tips At Startup"));
+  const auto addOption = [&](const QString& text, ui::CheckBox& model) {
+    bindCheckAction(refresher, model, options->addAction(text));
+  };
+  if (form3.plneso.onClick) addOption("Play &Next Song", form3.plneso);
+  addOption("Play With &One Click", form3.plfr);
+  addOption("Show A&rtist In Title List", form3.showAutor);
+  addOption("&Auto List Focus", form3.autoListFocus);
+  addOption("Show &Tips At Startup", form3.showTips);
+  options->addSeparator();
+  QAction* buttons = options->addAction("Show &menu and buttons\tCtrl+M");
+  buttons->setCheckable(true);
+  bindAction(refresher, form3.showMenuAndButtons, buttons);
+  refresher.watch(form3.menuAndButtons, buttons,
+                  [buttons, &form3] { buttons->setChecked(form3.menuAndButtons.visible()); });
 
   QMenu* help = menuBar()->addMenu("&Help");
   add(help, "&About", "about", form3.about);
 }
 
-QWidget* Form3View::makeWelcome(Refresher& refresher, ui::Form3& form3) {
-  auto* page = new QWidget;
-  QVBoxLayout* layout = column(page, section);
-  layout->setContentsMargins(section, section, section, section);
-  layout->setAlignment(Qt::AlignCenter);
+QWidget* Form3View::makeTopBar(Refresher& refresher, ui::Form3& form3) {
+  auto* bar = new QWidget;
+  QHBoxLayout* layout = row(bar);
+  layout->setContentsMargins(gap, tight, gap, tight);
 
-  auto* picture = new QLabel;
-  picture->setPixmap(programIcon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
-  layout->addWidget(picture, 0, Qt::AlignHCenter);
-
-  auto* title = scaled(heading({}), 1.5);
-  auto* text = new QLabel;
-  text->setWordWrap(true);
-  text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-  text->setFixedWidth(text->fontMetrics().averageCharWidth() * charactersPerLine);
-  layout->addWidget(title, 0, Qt::AlignHCenter);
-  layout->addWidget(text, 0, Qt::AlignHCenter);
-  auto* root = described(new ElidedLabel, "Music Base folder", "The folder of your Music Base");
-  root->setAlignment(Qt::AlignHCenter);
-  bindLabel(refresher, form3.rootLabel, root);
-  layout->addWidget(root);
-
-  auto* choose = described(button("&Select main folder for Your Music Base", "folder"),
-                           "Select main folder for Your Music Base",
-                           "The folder with your collection: Genre, Artist, Album-Year, file");
-  auto* process = described(button("Show &Processing Window", "processing"), "Show Processing Window",
-                            "Add new music, look it over and repair names and tags");
+  auto* choose = described(new QToolButton, "Select main folder for Your Music Base",
+                           "Select main folder for Your Music Base");
+  choose->setIcon(glyph("music-base"));
+  choose->setAutoRaise(true);
+  choose->setFocusPolicy(Qt::TabFocus);
+  choose->setMinimumSize(7 * unit, 7 * unit);
   bindButton(refresher, form3.selectMainFolder, choose);
-  bindButton(refresher, form3.showProcessingWindow, process);
-  QHBoxLayout* steps = row(nullptr, gap);
-  steps->addStretch();
-  steps->addWidget(choose);
-  steps->addWidget(process);
-  steps->addStretch();
-  layout->addLayout(steps);
+  layout->addWidget(choose);
+  auto* root = described(new ElidedLabel, "Music Base folder", "The folder of your Music Base");
+  bindLabel(refresher, form3.rootLabel, root, "No Music Base folder yet");
+  layout->addWidget(root, 1);
 
-  refresher.watch(form3.rootLabel, page, [&form3, title, text, root, process, choose] {
-    const bool chosen = !form3.rootLabel.text().empty();
-    title->setText(chosen ? "Your Music Base" : "Welcome to Velmora");
-    text->setText(chosen
-                      ? "Go on with the new music: add its folders in the Processing Window, look the songs "
-                        "over, and put their names and tags right."
-                      : "Choose the folder that holds your collection, or an empty one where it shall grow. "
-                        "You can also begin with new music right away and choose the folder later.");
-    // A layout that centres a label asks for the height of one line.
-    text->setFixedHeight(text->heightForWidth(text->width()));
-    root->setVisible(chosen);
-    (chosen ? process : choose)->setFocus();
-  });
-  return page;
+  auto* years = described(button("Select &Years", "calendar"), "Select Years",
+                          "Show folders with selected years in name of album subfolders");
+  bindButton(refresher, form3.selectYears, years);
+  new YearPopup(refresher, form3.years, years);
+  layout->addWidget(years);
+  const auto add = [&](const QString& text, const QString& icon, const QString& tip, ui::Button& model) {
+    auto* made = described(button(text, icon), QString(text).remove(u'&'), tip);
+    bindButton(refresher, model, made);
+    layout->addWidget(made);
+  };
+  add("Show &New Music Window", "new-music", "New files by genre, artist, album and title, beneath the base",
+      form3.showNewMusic);
+  add("Show &Processing Window", "processing", "Add new music, look it over and repair names and tags",
+      form3.showProcessingWindow);
+  return bar;
 }
 
 }  // namespace velmora::qt

@@ -58,4 +58,9 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   }
 }
 
+Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
+  const bool canBeDragged = !list_.dragWord.empty() || list_.dragFiles;
+  return QAbstractListModel::flags(index) | (canBeDragged ? Qt::ItemIsDragEnabled : Qt::NoItemFlags);
+}
+
 }  // namespace velmora::qt

@@ -5,6 +5,7 @@
 #include "qt/bind.h"
 #include "qt/dialogs.h"
 #include "qt/form1_view.h"
+#include "qt/form2_view.h"
 #include "qt/form3_view.h"
 
 namespace velmora::qt {
@@ -12,7 +13,9 @@ namespace velmora::qt {
 Views::Views(ui::Windows& windows, const ViewContext& context) {
   const auto add = [this](QWidget* window) { windows_.emplace_back(window); };
   add(new Form1View(context, windows.form1, windows.form3));
-  add(new Form3View(context, windows.form3));
+  auto* base = new Form3View(context, windows.form3, windows.form1);
+  add(base);
+  add(new Form2View(context, windows.form2, windows.form3, base));
   add(makeForm5(context, windows.form5));
   add(makeForm6(context, windows.form6));
   add(makeForm7(context, windows.form7));

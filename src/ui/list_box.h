@@ -40,6 +40,8 @@ class ListBox : public Control {
   Text dragWord;
   /// Full paths that a drag of the selected rows carries to other programs.
   std::function<std::vector<Text>()> dragFiles;
+  /// The one word that may be dropped here, for the view to show where a drag can go; empty lets any in.
+  Text dropWord;
   /// Raised when a drag that carries a list's word is dropped here.
   std::function<void(const Text& word)> onDrop;
 

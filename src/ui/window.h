@@ -50,6 +50,10 @@ class Window : public Observable {
   /// moves and sizes the window.
   const Placement& placement() const { return placement_; }
   void setPlacement(const Placement& placement) { assign(placement_, placement); }
+  /// What title and border add to the height of the placement on the screen, in twips: an estimate until the
+  /// view knows. A window beneath this one starts at top + height + frameHeight.
+  int frameHeight() const { return frameHeight_; }
+  void setFrameHeight(int height) { frameHeight_ = height; }
   /// Asks the view for the front and the focus; counts the requests.
   void bringToFront() { ++frontRequests_, changed(); }
   int frontRequests() const { return frontRequests_; }
@@ -68,6 +72,7 @@ class Window : public Observable {
   WindowState state_ = WindowState::Normal;
   Text caption_;
   Placement placement_;
+  int frameHeight_ = 540;
   int frontRequests_ = 0;
 };
 
