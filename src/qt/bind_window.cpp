@@ -116,7 +116,9 @@ class WindowBinding final : public QObject {
     if (refreshing_ || !widget_->isVisible() || stateOf(widget_) != ui::WindowState::Normal) return;
     shown_ = placement();
     model_.setPlacement(shown_);
-    model_.setFrameHeight(toTwips(widget_->frameGeometry().height() - widget_->height(), widget_));
+    // Not every system tells.
+    if (const int frameHeight = widget_->frameGeometry().height() - widget_->height(); frameHeight > 0)
+      model_.setFrameHeight(toTwips(frameHeight, widget_));
   }
 
   ui::Window& model_;

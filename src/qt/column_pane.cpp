@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QShortcut>
-#include <QToolBar>
 #include <QToolButton>
 
 #include "qt/grid.h"
@@ -15,6 +14,7 @@ namespace velmora::qt {
 namespace {
 
 constexpr int headingHeight = 9 * unit;
+constexpr int commandWidth = 7 * unit;
 constexpr int leastNameWidth = 8 * unit;
 constexpr int comfortableNameWidth = 16 * unit;
 
@@ -104,12 +104,6 @@ ColumnPane::ColumnPane(const QString& title) {
   auto* foot = new QWidget;
   names_ = row(foot, tight);
   names_->setContentsMargins(gap, tight, gap, tight);
-  commands_ = new QToolBar;
-  commands_->setIconSize({4 * unit, 4 * unit});
-  commands_->setContentsMargins(0, 0, 0, 0);
-  commands_->setStyleSheet("QToolBar { border: none; padding: 0; spacing: 0 }");
-  commands_->hide();
-  names_->addWidget(commands_);
   pane->addWidget(foot);
 }
 
@@ -133,31 +127,45 @@ void ColumnPane::addContent(QWidget* content, int stretch) {
 
 void ColumnPane::addName(QWidget* box, int stretch) {
   box->setMinimumWidth(leastNameWidth);
-  names_->insertWidget(names_->count() - 1, box, stretch);
+  names_->insertWidget(names_->count() - static_cast<int>(commands_.size()), box, stretch);
+  namesWidth_ += leastNameWidth + tight;
   roomForWords_ += comfortableNameWidth;
 }
 
 void ColumnPane::addCommand(QAction* action, const QString& name, Qt::ToolButtonStyle style) {
-  commands_->setVisible(true);
-  commands_->addAction(action);
-  auto* button = qobject_cast<QToolButton*>(commands_->widgetForAction(action));
+  auto* button = new QToolButton;
+  button->setDefaultAction(action);
   button->setToolButtonStyle(style);
+  button->setIconSize({4 * unit, 4 * unit});
+  button->setAutoRaise(style == Qt::ToolButtonIconOnly);
   button->setFocusPolicy(Qt::TabFocus);
   button->setAccessibleName(name);
-  button->setMinimumSize(7 * unit, 7 * unit);
-  if (style != Qt::ToolButtonIconOnly) button->setAutoRaise(false);
-  shownCommands_.push_back({button, style});
+  button->setMinimumSize(commandWidth, commandWidth);
+  names_->addWidget(button);
   roomForWords_ += button->sizeHint().width() + gap;
-}
-
-void ColumnPane::resizeEvent(QResizeEvent* event) {
-  for (const Command& command : shownCommands_)
-    command.button->setToolButtonStyle(width() >= roomForWords_ ? command.style : Qt::ToolButtonIconOnly);
-  QWidget::resizeEvent(event);
+  commands_.push_back({button, style});
+  connect(action, &QAction::changed, this, [this] { arrange(); });
 }
 
 void ColumnPane::setCommandsVisible(bool visible) {
-  commands_->setVisible(visible);
+  commandsVisible_ = visible;
+  arrange();
+}
+
+void ColumnPane::resizeEvent(QResizeEvent* event) {
+  arrange();
+  QWidget::resizeEvent(event);
+}
+
+void ColumnPane::arrange() {
+  const bool words = width() >= roomForWords_;
+  int room = width() - 2 * gap - namesWidth_;
+  for (const Command& command : commands_) {
+    command.button->setToolButtonStyle(words ? command.style : Qt::ToolButtonIconOnly);
+    room -= commandWidth + tight;
+    command.button->setVisible(commandsVisible_ && command.button->defaultAction()->isVisible() &&
+                               (words || room >= 0));
+  }
 }
 
 void ColumnKeys::add(QWidget* column) {

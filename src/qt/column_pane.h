@@ -10,7 +10,6 @@
 class QAction;
 class QHBoxLayout;
 class QLabel;
-class QToolBar;
 class QToolButton;
 class QVBoxLayout;
 
@@ -19,7 +18,8 @@ namespace velmora::qt {
 class CountLabel;
 
 /// One of four columns side by side: its heading with the count, the rows from edge to edge, and below them
-/// the name box with the commands. It can be made very narrow; commands without room go into a menu.
+/// the name box with the commands. It can be made very narrow; commands without room are left to the menu of
+/// the list.
 class ColumnPane : public QWidget {
   Q_OBJECT
 
@@ -53,15 +53,18 @@ class ColumnPane : public QWidget {
   QHBoxLayout* heading_;
   QVBoxLayout* contents_;
   QHBoxLayout* names_;
-  QToolBar* commands_;
   QLabel* title_;
   CountLabel* count_;
   struct Command {
     QToolButton* button;
     Qt::ToolButtonStyle style;
   };
-  std::vector<Command> shownCommands_;
-  int roomForWords_ = 0;  // width that the pane needs to show its commands in full
+  void arrange();
+
+  std::vector<Command> commands_;
+  bool commandsVisible_ = true;
+  int namesWidth_ = 0;    // that the name boxes need at least
+  int roomForWords_ = 0;  // width of the pane from which on its commands are shown in full
 };
 
 /// Takes the keyboard from one list to its neighbour in sight by Left and Right.
