@@ -34,10 +34,13 @@ constexpr std::size_t roomForNumber = 8;  // bytes
 /// Makes one folder that only the user may enter; a folder of the user's that is there already will do.
 bool makePrivateFolder(const Text& folder) {
   const Bytes path = core::toBytes(folder);
-  if (::mkdir(path.c_str(), 0700) == 0) return true;
   struct stat status;
-  return errno == EEXIST && ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
-         status.st_uid == ::getuid();
+  // It is there as a rule, and to look costs less than to try.
+  if (::lstat(path.c_str(), &status) != 0) {
+    if (::mkdir(path.c_str(), 0700) == 0) return true;
+    if (errno != EEXIST || ::lstat(path.c_str(), &status) != 0) return false;
+  }
+  return S_ISDIR(status.st_mode) && status.st_uid == ::getuid();
 }
 
 /// Whether a folder that all users share is safe to use: no link, and nobody removes what others put there.
@@ -71,8 +74,7 @@ Bytes percentEncoded(BytesView path) {
   return out;
 }
 
-Bytes localTime() {
-  const std::time_t now = std::time(nullptr);
+Bytes localTime(std::time_t now) {
   std::tm local = {};
   ::localtime_r(&now, &local);
   std::array<char, 32> text;
@@ -129,14 +131,21 @@ std::optional<DesktopTrash::Place> DesktopTrash::volumePlace(const Text& volume)
   return std::nullopt;
 }
 
-DesktopTrash::Place DesktopTrash::placeFor(const Text& path) {
-  const Text volume = files_.volumeOf(Text(paths::folderPart(path)));
-  if (volume != files_.volumeOf(homeTrash_)) {
-    if (auto place = volumePlace(volume)) return *std::move(place);
+DesktopTrash::Place DesktopTrash::placeFor(TextView folder, dev_t device, std::time_t now) {
+  if (found_.folder != folder || found_.device != device || found_.second != now) {
+    found_ = {};
+    Text volume = files_.volumeOf(Text(folder));
+    if (volume == files_.volumeOf(homeTrash_)) volume.clear();
+    found_ = {Text(folder), device, now, std::move(volume)};
   }
-  const TextView above = paths::folderPart(homeTrash_);
-  files_.makeFolder(Text(core::dropRight(above, 1)));
-  if (!makePrivateFolder(homeTrash_) || !makeInside(homeTrash_)) throw FileError(FileError::permissionDenied);
+  if (!found_.volume.empty()) {
+    if (auto place = volumePlace(found_.volume)) return *std::move(place);
+  }
+  if (!makePrivateFolder(homeTrash_)) {
+    files_.makeFolder(Text(core::dropRight(paths::folderPart(homeTrash_), 1)));
+    if (!makePrivateFolder(homeTrash_)) throw FileError(FileError::permissionDenied);
+  }
+  if (!makeInside(homeTrash_)) throw FileError(FileError::permissionDenied);
   return {homeTrash_, {}};
 }
 
@@ -144,9 +153,10 @@ Text DesktopTrash::send(const Text& path) {
   struct stat status;
   const Bytes native = nativePath(path);
   if (::lstat(native.c_str(), &status) != 0) throwErrno(native);
-  const Place place = placeFor(path);
+  const std::time_t now = std::time(nullptr);
+  const Place place = placeFor(paths::folderPart(path), status.st_dev, now);
   const Bytes info =
-      "[Trash Info]\nPath=" + toldPath(path, place.origin) + "\nDeletionDate=" + localTime() + "\n";
+      "[Trash Info]\nPath=" + toldPath(path, place.origin) + "\nDeletionDate=" + localTime(now) + "\n";
 
   const TextView name = paths::fileName(path);
   int& nextNumber = nextNumber_.try_emplace(paths::join(place.folder, name), 2).first->second;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <ctime>
 #include <optional>
+#include <sys/types.h>
 #include <unordered_map>
 
 #include "platform/files.h"
@@ -27,7 +29,7 @@ class DesktopTrash final : public platform::Trash {
     Text folder;
     Text origin;
   };
-  Place placeFor(const Text& path);
+  Place placeFor(TextView folder, dev_t device, std::time_t now);
   static std::optional<Place> volumePlace(const Text& volume);
   void dropInfo(const Text& infoFile);
 
@@ -36,6 +38,15 @@ class DesktopTrash final : public platform::Trash {
   /// The number that a file tries when its plain name is taken, per trash and name: a trash full of files of
   /// one name is not searched from its beginning for each.
   std::unordered_map<Text, int> nextNumber_;
+  /// The volume of the last file, empty for that of the home trash. It goes for the others of its folder
+  /// within the same second, since finding it takes more calls than all else.
+  struct Found {
+    Text folder;
+    dev_t device = 0;
+    std::time_t second = 0;
+    Text volume;
+  };
+  Found found_;
 };
 
 }  // namespace velmora::system

@@ -38,12 +38,17 @@ struct stat statusOf(const Bytes& path) {
   return status;
 }
 
+/// Whether a file may be opened in this way at all: throws where it is no regular file, and where it is to be
+/// written and marked read-only.
+void requireUsable(const struct stat& status, int flags) {
+  if (!S_ISREG(status.st_mode)) throw FileError(FileError::pathAccess);
+  if (flags != O_RDONLY && markedReadOnly(status)) throw FileError(FileError::permissionDenied);
+}
+
 /// Opens what must be a regular file. Anything else is refused unopened, since to open a pipe or a device is
 /// to do something to it; O_NONBLOCK covers the moment between the look and the opening.
 Descriptor openRegular(const Bytes& path, int flags) {
-  const struct stat status = statusOf(path);
-  if (!S_ISREG(status.st_mode)) throw FileError(FileError::pathAccess);
-  if (flags != O_RDONLY && markedReadOnly(status)) throw FileError(FileError::permissionDenied);
+  requireUsable(statusOf(path), flags);
   Descriptor file(untilDone([&] { return ::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC); }));
   if (!file.valid()) throwErrno(path);
   return file;
@@ -56,14 +61,17 @@ Descriptor createFile(const Bytes& path, int flags) {
   return file;
 }
 
-/// A file of the program's own, made where it is missing.
-Descriptor openOwn(const Bytes& path, int flags) {
-  struct stat status;
-  if (::stat(path.c_str(), &status) == 0) return openRegular(path, flags);
-  // A dangling link is followed to the file that it stands for.
+/// A file of the program's own, made where it is missing; a dangling link is followed to the file that it
+/// stands for. The journal is opened for each of its lines, so the look at it is the cheap one behind the
+/// opening: nobody puts a device in the place of such a file.
+Descriptor openOwn(const Bytes& path, int flags, std::uint64_t& size) {
   Descriptor file(
       untilDone([&] { return ::open(path.c_str(), flags | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666); }));
-  if (!file.valid()) throwErrno(path);
+  struct stat status;
+  if (!file.valid() && errno == ENXIO) throw FileError(FileError::pathAccess);  // a pipe
+  if (!file.valid() || ::fstat(file.get(), &status) != 0) throwErrno(path);
+  requireUsable(status, flags);
+  size = static_cast<std::uint64_t>(status.st_size);
   return file;
 }
 
@@ -187,10 +195,10 @@ Bytes PosixFiles::readAll(const Text& path) {
 
 void PosixFiles::writeAll(const Text& path, BytesView bytes) {
   const Bytes native = nativePath(path);
-  Descriptor file = openOwn(native, O_WRONLY);
+  std::uint64_t oldSize = 0;
+  Descriptor file = openOwn(native, O_WRONLY, oldSize);
   // What goes beyond the old content comes first, since that alone needs room: a full disk leaves the old
   // content as it was.
-  const std::uint64_t oldSize = sizeOf(file, native);
   const std::size_t inPlace = std::min<std::size_t>(bytes.size(), oldSize);
   if (const int code = writeFully(file.get(), bytes.substr(inPlace), inPlace)) {
     [[maybe_unused]] const int cut = ::ftruncate(file.get(), static_cast<off_t>(oldSize));
@@ -204,8 +212,8 @@ void PosixFiles::writeAll(const Text& path, BytesView bytes) {
 
 void PosixFiles::append(const Text& path, BytesView bytes) {
   const Bytes native = nativePath(path);
-  Descriptor file = openOwn(native, O_WRONLY | O_APPEND);
-  const std::uint64_t oldSize = sizeOf(file, native);
+  std::uint64_t oldSize = 0;
+  Descriptor file = openOwn(native, O_WRONLY | O_APPEND, oldSize);
   const ssize_t count = untilDone([&] { return ::write(file.get(), bytes.data(), bytes.size()); });
   if (count != static_cast<ssize_t>(bytes.size())) {
     // A record that did not fit must not leave its first half in front of the next one.

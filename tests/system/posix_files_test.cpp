@@ -75,6 +75,7 @@ TEST_F(PosixFilesTest, PipesAndFoldersAreRefusedUnopened) {
     EXPECT_EQ(errorNumber([&] { files.open(path, OpenMode::Read); }), FileError::pathAccess);
     EXPECT_EQ(errorNumber([&] { files.readAll(path); }), FileError::pathAccess);
     EXPECT_EQ(errorNumber([&] { files.writeAll(path, "x"); }), FileError::pathAccess);
+    EXPECT_EQ(errorNumber([&] { files.append(path, "x"); }), FileError::pathAccess);
     EXPECT_FALSE(files.busy(path));
   }
 }
