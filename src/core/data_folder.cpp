@@ -43,6 +43,8 @@ constexpr TextView autoriFile = u"autori.txt";
 constexpr TextView stariautoriFile = u"stariautori.txt";
 constexpr TextView bazanizFile = u"bazaniz.txt";
 
+constexpr std::size_t bytesAroundText = 4;  // of a record: its quotes and line end
+
 /// A column longer than `nizdes` has outlived the rows it spoke of: what is beyond them must not come to
 /// speak of the files that are added next.
 void takeColumn(TrackTable& table, Column column, std::vector<Element> elements) {
@@ -94,20 +96,29 @@ Text DataFolder::path(TextView fileName) const {
 
 void DataFolder::writeColumn(TextView fileName, const TrackTable& table, Column column) {
   const int rows = table.upperBound(column);
-  Bytes content;
   // Rows and their texts lie all over the memory; asked for ahead, they are there in time.
   constexpr int rowAhead = 24;
   constexpr int textAhead = 12;
-  for (int row = 1; row <= rows; ++row) {
-    __builtin_prefetch(&table.element(column, row + rowAhead));
-    __builtin_prefetch(&table.element(column, row + textAhead).text());
-    records::write(content, table.element(column, row));
-  }
+  const auto visit = [&](const auto& take) {
+    for (int row = 1; row <= rows; ++row) {
+      __builtin_prefetch(&table.element(column, row + rowAhead));
+      __builtin_prefetch(&table.element(column, row + textAhead).text());
+      take(table.element(column, row));
+    }
+  };
+  std::size_t room = 0;
+  visit([&](const Element& element) { room += element.text().size() + bytesAroundText; });
+  Bytes content;
+  content.reserve(room);
+  visit([&](const Element& element) { records::write(content, element); });
   store(fileName, content);
 }
 
 void DataFolder::writeList(TextView fileName, const std::vector<Text>& list) {
+  std::size_t room = 0;
+  for (const Text& text : list) room += text.size() + bytesAroundText;
   Bytes content;
+  content.reserve(room);
   for (const Text& text : list) records::writeText(content, text);
   store(fileName, content);
 }

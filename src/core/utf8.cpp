@@ -119,7 +119,7 @@ void append(Bytes& out, TextView text) {
   out.resize(before + text.size());
   char* to = out.data() + before;
   std::size_t at = 0;
-  constexpr std::size_t block = 8;
+  constexpr std::size_t block = 16;
   for (; at + block <= text.size(); at += block) {
     unsigned all = 0;
     for (std::size_t i = 0; i < block; ++i) {
