@@ -81,11 +81,12 @@ bool NameBatches::removeNumber(int row, std::initializer_list<int> lengths, ui::
 void NameBatches::insertNumber(int row, const Text& digits, ui::TextBox& tagBox) {
   const core::Track& track = parts_.table.track(row);
   const tags::OwnValues ownValues(parts_.form1);
-  parts_.panel.info(track.nizdes.text(), row);
+  tags::OpenSong song(parts_.files, track.nizdes.text());
+  parts_.panel.info(song, row);
   findFirstDash(row);
   if (!track.imaid3v1.isTrue() && !track.imaid3v2.isTrue()) return;
   const ui::TagPanel& panel = parts_.form1.tags;
-  parts_.tagWriter.write(panel.writeID3v1.checked(), panel.writeID3v2.checked(), [&] {
+  parts_.tagWriter.write(song, panel.writeID3v1.checked(), panel.writeID3v2.checked(), [&] {
     tagBox.setText(digits);
     parts_.form1.tags.artist.setText(trimmed(track.pevac.text()));
     parts_.form1.tags.title.setText(trimmed(track.pesma.text()));

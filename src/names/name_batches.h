@@ -17,6 +17,7 @@ class NameBatches {
  public:
   struct Parts {
     core::TrackTable& table;
+    platform::Files& files;
     platform::Dialogs& dialogs;
     ui::Form1& form1;
     const ui::Dialog2& options;

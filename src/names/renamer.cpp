@@ -136,8 +136,9 @@ void Renamer::followWithTags(int row, const OldName& old) {
   if (!first && !second) return;
 
   const tags::OwnValues ownValues(parts_.form1);
-  parts_.panel.info(path, row);
-  parts_.tagWriter.write(first, second, [this, &track] {
+  tags::OpenSong song(parts_.files, path);
+  parts_.panel.info(song, row);
+  parts_.tagWriter.write(song, first, second, [this, &track] {
     parts_.form1.tags.title.setText(Text(core::trim(track.pesma.text())));
     parts_.form1.tags.artist.setText(Text(core::trim(track.pevac.text())));
   });

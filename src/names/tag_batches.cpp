@@ -17,8 +17,9 @@ void TagBatches::fromNames() {
                    songs ? parts_.frame.selectedSongs() : parts_.frame.selectedRows(), [this](int row) {
                      const core::Track& track = parts_.table.track(row);
                      ui::TagPanel& panel = parts_.form1.tags;
-                     parts_.panel.info(track.nizdes.text(), row);
-                     parts_.eachTagWriter.write(panel.writeID3v1.checked(), panel.writeID3v2.checked(),
+                     tags::OpenSong song(parts_.files, track.nizdes.text());
+                     parts_.panel.info(song, row);
+                     parts_.eachTagWriter.write(song, panel.writeID3v1.checked(), panel.writeID3v2.checked(),
                                                 [&panel, &track] {
                                                   panel.artist.setText(Text(core::trim(track.pevac.text())));
                                                   panel.title.setText(Text(core::trim(track.pesma.text())));

@@ -12,6 +12,7 @@ class TagBatches {
  public:
   struct Parts {
     core::TrackTable& table;
+    platform::Files& files;
     ui::Form1& form1;
     BatchFrame& frame;
     tags::FilePanel& panel;

@@ -16,13 +16,14 @@ class EachTagWriter {
   EachTagWriter(const core::TrackTable& table, FilePanel& panel, TagWriter& writer, ui::Form1& form1)
       : table_(table), panel_(panel), writer_(writer), form1_(form1) {}
 
-  /// Writes the tags asked for of the row that the panel shows. `fill` puts the new values in the boxes, on
-  /// top of those of the tag in view; it is called once per write. A tag that the row lacks is made with the
-  /// values of the one that it has. The two write marks are as before afterwards.
-  void write(bool toID3v1, bool toID3v2, const std::function<void()>& fill);
+  /// Writes the tags asked for of `song`, which is that of the row that the panel shows. `fill` puts the new
+  /// values in the boxes, on top of those of the tag in view; it is called once per write. A tag that the row
+  /// lacks is made with the values of the one that it has. The two write marks are as before afterwards.
+  void write(OpenSong& song, bool toID3v1, bool toID3v2, const std::function<void()>& fill);
 
  private:
-  void writeOnce(ui::OptionButton& view, bool toID3v1, bool toID3v2, const std::function<void()>& fill);
+  void writeOnce(OpenSong& song, ui::OptionButton& view, bool toID3v1, bool toID3v2,
+                 const std::function<void()>& fill);
   bool sameButForTitleAndArtist() const;
 
   const core::TrackTable& table_;

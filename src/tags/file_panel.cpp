@@ -65,7 +65,7 @@ std::optional<std::uint64_t> FilePanel::readTags(const Text& path, int row) {
 
 void FilePanel::info(OpenSong& song, int row) {
   table_.currentRow = row;
-  show(song.path(), row, InfoMode::Full, [&]() -> SongBytes& { return song.bytes(); });
+  show(song.path(), row, InfoMode::Full, [&]() -> SongBytes& { return song.bytesToRead(); });
 }
 
 void FilePanel::show(const Text& path, int row, InfoMode mode, const BytesOf& bytesOf) {

@@ -1,7 +1,5 @@
 #include "tags/id3v1.h"
 
-#include <array>
-
 #include "core/code_page.h"
 #include "platform/file_error.h"
 
@@ -58,10 +56,8 @@ void cMP3ID3v1::read(SongBytes& song, const Text& path) {
   path_ = path;
   reset();
   if (song.size() <= tagBytes) return;
-  std::array<char, tagBytes> bytes;
-  if (song.copy(song.size() - tagBytes, bytes) < tagBytes) return;
-  BytesView tag(bytes.data(), bytes.size());
-  if (!tag.starts_with(marker)) return;
+  BytesView tag = song.end(tagBytes);
+  if (tag.size() < tagBytes || !tag.starts_with(marker)) return;
 
   tag.remove_prefix(marker.size());
   const auto take = [&tag](std::size_t width) {
@@ -96,10 +92,8 @@ void cMP3ID3v1::write(OpenSong& song) const {
   const std::uint64_t size = song.bytes().size();
   if (size == 0) throw notAValidMP3File(song.path());
   if (size <= tagBytes) return;
-  std::array<char, marker.size()> found{};
-  song.bytes().copy(size - tagBytes, found);
   // A new tag begins on the last byte of the file, not behind it; this placement is kept as it stands.
-  const bool has = BytesView(found.data(), found.size()) == marker;
+  const bool has = song.bytes().end(tagBytes).starts_with(marker);
   song.write(has ? size - tagBytes : size - 1, fields());
 }
 

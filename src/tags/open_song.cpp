@@ -13,18 +13,25 @@ namespace velmora::tags {
 OpenSong::OpenSong(platform::Files& files, Text path) : files_(files), path_(std::move(path)) {}
 
 platform::OpenFile& OpenSong::open() {
-  if (!file_) file_ = files_.open(path_, platform::OpenMode::ReadWrite);
+  if (!file_) {
+    auto file = files_.open(path_, platform::OpenMode::ReadWrite);
+    close();
+    file_ = std::move(file);
+    alone_ = file_->lockAlone();
+  }
   return *file_;
 }
 
 void OpenSong::close() {
   bytes_.reset();
   file_.reset();
+  reader_.reset();
 }
 
 bool OpenSong::busy() {
   try {
-    if (open().lockAlone()) return false;
+    open();
+    if (alone_) return false;
     close();
     return true;
   } catch (const platform::FileError&) {
@@ -33,13 +40,34 @@ bool OpenSong::busy() {
 }
 
 SongBytes& OpenSong::bytes() {
-  if (!bytes_) bytes_.emplace(open());
+  platform::OpenFile& file = open();
+  if (!bytes_) bytes_.emplace(file);
   return *bytes_;
 }
 
+SongBytes& OpenSong::bytesToRead() {
+  if (bytes_) return *bytes_;
+  try {
+    return bytes();
+  } catch (const platform::FileError&) {
+    reader_ = files_.open(path_, platform::OpenMode::Read);
+    return bytes_.emplace(*reader_);
+  }
+}
+
 void OpenSong::write(std::uint64_t offset, BytesView bytes) {
-  bytes_.reset();
-  open().writeAt(offset, bytes);
+  platform::OpenFile& file = open();
+  const bool within = bytes_ && offset + bytes.size() <= bytes_->size();
+  try {
+    file.writeAt(offset, bytes);
+  } catch (const platform::FileError&) {
+    bytes_.reset();
+    throw;
+  }
+  if (within)
+    bytes_->wrote(offset, bytes);
+  else
+    bytes_.reset();
 }
 
 void OpenSong::InsertZeroBytes(std::uint64_t count, BytesView head) {

@@ -18,7 +18,8 @@ bool SongBytes::Stretch::holds(std::uint64_t offset, std::size_t count) const {
 
 const SongBytes::Stretch* SongBytes::find(std::uint64_t offset, std::size_t count) const {
   if (head_.holds(offset, count)) return &head_;
-  return ahead_.holds(offset, count) ? &ahead_ : nullptr;
+  if (ahead_.holds(offset, count)) return &ahead_;
+  return end_.holds(offset, count) ? &end_ : nullptr;
 }
 
 BytesView SongBytes::at(std::uint64_t offset, std::size_t count) {
@@ -43,10 +44,30 @@ const SongBytes::Stretch& SongBytes::readAhead(std::uint64_t offset, std::size_t
   return ahead_;
 }
 
-std::size_t SongBytes::copy(std::uint64_t offset, std::span<char> into) {
-  const Stretch* stretch = find(offset, into.size());
-  if (!stretch) return file_.readAt(offset, into);
-  return stretch->bytes.copy(into.data(), into.size(), static_cast<std::size_t>(offset - stretch->start));
+BytesView SongBytes::end(std::size_t count) {
+  const std::uint64_t offset = size_ - std::min<std::uint64_t>(count, size_);
+  const Stretch* stretch = find(offset, static_cast<std::size_t>(size_ - offset));
+  if (!stretch) {
+    const std::uint64_t start = size_ - std::min<std::uint64_t>(endBytes, size_);
+    end_ = {};
+    end_ = {BytesView(endBlock_.data(), file_.readAt(start, endBlock_)), start};
+    stretch = &end_;
+  }
+  const std::uint64_t skipped = std::min<std::uint64_t>(offset - stretch->start, stretch->bytes.size());
+  return stretch->bytes.substr(static_cast<std::size_t>(skipped), count);
+}
+
+void SongBytes::wrote(std::uint64_t offset, BytesView bytes) {
+  const auto follow = [&](const Stretch& stretch, char* block) {
+    const std::uint64_t from = std::max(offset, stretch.start);
+    const std::uint64_t to = std::min(offset + bytes.size(), stretch.start + stretch.bytes.size());
+    if (from < to)
+      bytes.copy(block + (from - stretch.start), static_cast<std::size_t>(to - from),
+                 static_cast<std::size_t>(from - offset));
+  };
+  follow(head_, headBlock_.data());
+  follow(ahead_, aheadBlock_.data());
+  follow(end_, endBlock_.data());
 }
 
 std::uint32_t bigEndian(BytesView bytes) {

@@ -23,8 +23,10 @@ class SongBytes {
   std::uint64_t size() const { return size_; }
   /// `count` bytes from `offset`, fewer where the file ends. Good until the next call.
   BytesView at(std::uint64_t offset, std::size_t count);
-  /// The same into `into`, without reading ahead. Returns the bytes got.
-  std::size_t copy(std::uint64_t offset, std::span<char> into);
+  /// The last `count` bytes, 128 at most; fewer where the file is shorter. Good until the next call.
+  BytesView end(std::size_t count);
+  /// Follows a write to the file that lay within it: what was read before is right again.
+  void wrote(std::uint64_t offset, BytesView bytes);
 
  private:
   static constexpr std::size_t firstChunk = 4096;
@@ -34,17 +36,21 @@ class SongBytes {
     std::uint64_t start = 0;
     bool holds(std::uint64_t offset, std::size_t count) const;
   };
+  static constexpr std::size_t endBytes = 128;
+
   const Stretch* find(std::uint64_t offset, std::size_t count) const;
   const Stretch& readHead();
   const Stretch& readAhead(std::uint64_t offset, std::size_t count);
 
   platform::OpenFile& file_;
   std::uint64_t size_;
-  Stretch head_;  // the first block stays, since all readers begin there
+  Stretch head_;  // the first block is kept, since all readers begin there
   Stretch ahead_;
+  Stretch end_;  // kept, too, since the writer of the tag that lies there looks at it once more
   // What the stretches see. The first block is all that most songs are asked for, and it is not worth a trip
   // to the heap, which would tidy itself up for a block of that size.
   std::array<char, firstChunk> headBlock_;
+  std::array<char, endBytes> endBlock_;
   Bytes aheadBlock_;
   std::size_t chunk_ = firstChunk;
 };

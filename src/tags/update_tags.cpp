@@ -43,14 +43,17 @@ std::uint8_t trackByte(double track) {
 }  // namespace
 
 void TagWriter::UpdateTags() {
-  const int row = parts_.table.currentRow;
-  if (!parts_.table.hasRow(row)) return;
-  const Text path = parts_.table.path(row);
+  if (!parts_.table.hasRow(parts_.table.currentRow)) return;
+  OpenSong song(parts_.files, parts_.table.path(parts_.table.currentRow));
+  UpdateTags(song);
+}
 
+void TagWriter::UpdateTags(OpenSong& song) {
+  const int row = parts_.table.currentRow;
+  const Text& path = song.path();
   const player::FileHandOver handOver(parts_.player, path);
   if (handOver.held() && parts_.desktop.systemVersion() < pauseBelowVersion)
     parts_.desktop.sleep(pauseMilliseconds);
-  OpenSong song(parts_.files, path);
   if (!parts_.busyFile.waitUntilFree(song)) return;
   if (core::paths::lastThree(path) != u"mp3") return;
   try {

@@ -37,6 +37,8 @@ class TagWriter {
   /// another program holds the file. Abort and Ignore in the dialog of a failure both end it for this row,
   /// with no undo record.
   void UpdateTags();
+  /// The same for the song of the current row, which may be open already, as after `FilePanel::info` of it.
+  void UpdateTags(OpenSong& song);
 
  private:
   bool writeTags(OpenSong& song, int row, bool released);

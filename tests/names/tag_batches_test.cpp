@@ -1,3 +1,6 @@
+#include <sys/stat.h>
+
+#include "core/text.h"
 #include "tests/support/repair_bench.h"
 
 namespace velmora {
@@ -116,6 +119,15 @@ TEST_F(TagBatches, TickedBoxesGoOntoAllSelectedFilesAndTheOthersLeaveEachItsOwn)
   EXPECT_EQ(form1().tags.album.text(), u"");
   select({u"c"});
   EXPECT_TRUE(form1().tags.album.enabled()) << "one file can be edited as it is";
+}
+
+TEST_F(TagBatches, AReadOnlyFileIsShownAndWritten) {
+  add({{u"Arvola - One", {.title = u"x", .album = u"A1"}}});
+  mark(true, false);
+  selectAll();
+  ASSERT_EQ(::chmod(core::toBytes(pathOf(u"Arvola - One")).c_str(), 0444), 0);
+  click(tools().fnToId3);
+  EXPECT_EQ(first(u"Arvola - One"), "Arvola|One|A1||0");
 }
 
 TEST_F(TagBatches, AFileThatCannotBeWrittenEndsItsRowAlone) {
