@@ -266,13 +266,12 @@ void BaseLists::restoreTitle() {
     parts_.desktop.pumpEvents();
     if (titles.List(index) == title) titles.setSelected(index, false);
   }
-  if (parts_.form3.plfr.checked() && clicksPlay) titles.setSelected(0, true);
+  if (parts_.form3.plfr.checked() && armed_) titles.setSelected(0, true);
 }
 
 void BaseLists::selectTitle(int index) {
-  const bool before = std::exchange(clicksPlay, false);
+  const Unarmed unarmed(*this);
   parts_.form3.List8.setSelected(index, true);
-  clicksPlay = before;
 }
 
 void BaseLists::List8Click() {
@@ -280,7 +279,7 @@ void BaseLists::List8Click() {
   const int clicked = form3.List8.ListIndex();
   if (diverted(form3.List8) || clicked < 0) return;
   form3.Text4.setText(titleOf(form3.List8.ItemData(clicked)));
-  if (form3.plfr.checked() && clicksPlay && form3.List8.Selected(clicked)) play(clicked);
+  if (form3.plfr.checked() && armed_ && form3.List8.Selected(clicked)) play(clicked);
 }
 
 void BaseLists::List8DoubleClick() {

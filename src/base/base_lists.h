@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "base/base_tree.h"
@@ -45,7 +46,18 @@ class BaseLists {
   /// While set, another window's command works with the columns: "-<< Without Folder >>-" is not tested, no
   /// position is saved and no title restored.
   bool driven = false;
-  bool clicksPlay = true;  ///< whether "Play With One Click" holds for clicks
+  /// Rows that code selects meanwhile are not played, though "Play With One Click" be checked.
+  class Unarmed {
+   public:
+    explicit Unarmed(BaseLists& lists) : lists_(lists), before_(std::exchange(lists.armed_, false)) {}
+    ~Unarmed() { lists_.armed_ = before_; }
+    Unarmed(const Unarmed&) = delete;
+    Unarmed& operator=(const Unarmed&) = delete;
+
+   private:
+    BaseLists& lists_;
+    bool before_;
+  };
 
   /// The root with a separator at its end; empty while no folder was chosen.
   const Text& root() const { return root_; }
@@ -103,6 +115,7 @@ class BaseLists {
 
   Parts parts_;
   Text root_;
+  bool armed_ = true;  // a click on a title may play it
   std::unordered_map<int, Contents> artistContents_;  // by index, for the length of one click on List2
 };
 

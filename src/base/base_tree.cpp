@@ -33,10 +33,15 @@ int FolderYear(TextView name) {
   return core::length(name) < yearLength ? 0 : core::intValue(core::right(name, yearLength));
 }
 
-Text folderName(TextView typed) {
+Text cleanName(TextView typed) {
   Text name = names::OcistiIme(typed);
   for (char16_t& character : name)
     if (character < u' ') character = u' ';
+  return name;
+}
+
+Text folderName(TextView typed) {
+  const Text name = cleanName(typed);
   const TextView trimmed = core::trim(name);
   return trimmed == u"." || trimmed == u".." ? Text() : Text(trimmed);
 }

@@ -19,8 +19,10 @@ TextView withoutSeparator(TextView folder);
 /// The year that a folder's name or path ends in: the number that its last four characters begin with, read
 /// from their left; 0 when there is none.
 int FolderYear(TextView name);
-/// A typed name as a folder can bear it: trimmed, with a blank for each character that no name may hold.
-/// Empty when nothing is left, and for the names that lead out of a folder.
+/// A typed name with a blank for each character that no name may hold.
+Text cleanName(TextView typed);
+/// The same as a folder can bear it, trimmed. Empty when nothing is left, and for the names that lead out of
+/// a folder.
 Text folderName(TextView typed);
 
 /// The names in one folder, in the order of the file system.

@@ -42,13 +42,17 @@ PreviewPlayer::PreviewPlayer(Parts parts) : parts_(std::move(parts)) {
 void PreviewPlayer::playRow(int row) {
   if (!parts_.table.hasRow(row)) return;
   const Text path = parts_.table.path(row);
+  playFile(path);
+  parts_.panel.info(path, row);
+}
+
+void PreviewPlayer::playFile(const Text& path) {
   givenUp_.reset();
   parts_.media.setFile(path);
   parts_.media.setVolume(parts_.table.ton);
   parts_.media.play();
   enableControls();
   parts_.form1.statusLabel.setText(u"Now playing: " + path);
-  parts_.panel.info(path, row);
 }
 
 void PreviewPlayer::List4DoubleClick() {

@@ -38,6 +38,8 @@ class PreviewPlayer final : public FileHolder {
 
   /// Plays the file of any row, shows it in the panel and says so in the status label.
   void playRow(int row);
+  /// Plays a file that belongs to no row, and says so in the status label.
+  void playFile(const Text& path);
   /// Double click on the file list: plays the row, or opens another file with its own program.
   void List4DoubleClick();
 

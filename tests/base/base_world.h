@@ -5,9 +5,14 @@
 #include <vector>
 
 #include "base/base_lists.h"
+#include "base/file_commands.h"
+#include "base/folder_commands.h"
 #include "base/folders.h"
 #include "base/new_folders.h"
+#include "base/trash_files.h"
+#include "core/number_text.h"
 #include "core/text.h"
+#include "platform/file_error.h"
 #include "system/posix_files.h"
 #include "tests/support/fault_files.h"
 #include "tests/support/scripted_desktop.h"
@@ -20,6 +25,36 @@
 namespace velmora::test {
 
 using Names = std::vector<std::string>;
+
+/// A trash that is a folder beside the base, and that refuses one path.
+struct ListTrash final : platform::Trash {
+  ListTrash(platform::Files& realFiles, const TempFolder& tempFolder)
+      : files(realFiles), folder(tempFolder) {}
+  Text send(const Text& path) override {
+    if (path == refused) throw platform::FileError(platform::FileError::permissionDenied);
+    folder.mkdir(u"trash");
+    Text there = folder.path(u"trash/" + core::plain(std::int64_t(sent.size())));
+    files.move(path, there);
+    sent.push_back(path);
+    return there;
+  }
+  void bringBack(const Text& trashPath, const Text& target) override { files.move(trashPath, target); }
+
+  platform::Files& files;
+  const TempFolder& folder;
+  Text refused;
+  std::vector<Text> sent;
+};
+
+/// A player that holds one file, and is told what becomes of it.
+struct HeldFile final : player::FileHolder {
+  bool holds(const Text& path) const override { return !path.empty() && path == held; }
+  void release() override { held.clear(); }
+  void giveBack(const Text& path) override { held = path; }
+  void close() override { held.clear(); }
+
+  Text held;
+};
 
 /// A Music Base on the real disk, and the rooms that browse and change it, wired as the program wires them.
 struct BaseWorld : testing::Test {
@@ -46,6 +81,28 @@ struct BaseWorld : testing::Test {
   base::Folders folders{{.table = table, .files = files, .journal = journal}};
   base::NewFolders newFolders{
       {.table = table, .dialogs = dialogs, .form3 = form3, .lists = lists, .folders = folders}};
+  ListTrash trash{files, folder};
+  HeldFile player;
+  base::TrashFiles trashFiles{
+      {.table = table, .files = files, .trash = trash, .player = player, .progress = progress}};
+  base::FileCommands fileCommands{{.table = table,
+                                   .files = files,
+                                   .dialogs = dialogs,
+                                   .player = player,
+                                   .windows = windows,
+                                   .progress = progress,
+                                   .lists = lists,
+                                   .trash = trashFiles}};
+  base::FolderCommands folderCommands{{.table = table,
+                                       .files = files,
+                                       .dialogs = dialogs,
+                                       .player = player,
+                                       .windows = windows,
+                                       .progress = progress,
+                                       .lists = lists,
+                                       .folders = folders,
+                                       .trash = trashFiles,
+                                       .fileCommands = fileCommands}};
   std::vector<Text> played;
 
   BaseWorld() {
@@ -98,6 +155,17 @@ struct BaseWorld : testing::Test {
     Names names;
     for (const int index : list.selectedIndexes()) names.push_back(core::toBytes(list.List(index)));
     return names;
+  }
+  /// Answers the question of a command.
+  void answer(Text text, Text title, platform::Answer given = platform::Answer::Ok) {
+    dialogs.expect(std::move(text), std::move(title), given);
+  }
+  /// No command is left open: windows can be used and clicks get through.
+  void expectAtRest() const {
+    EXPECT_TRUE(windows.form1.enabled() && windows.form2.enabled() && windows.form3.enabled());
+    EXPECT_FALSE(progress.shown());
+    EXPECT_EQ(table.puniliste, 0);
+    EXPECT_EQ(table.aktivniprozor, 3);
   }
   /// A path below the base.
   Text at(TextView name) const { return folder.path(u"base/" + Text(name)); }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <utility>
+
+#include "core/track_table.h"
+
+namespace velmora::base {
+
+/// Tells the handlers that another window is at work (`aktivniprozor`) for as long as an object of this class
+/// lives.
+class ActiveWindow {
+ public:
+  ActiveWindow(core::TrackTable& table, int window)
+      : table_(table), before_(std::exchange(table.aktivniprozor, window)) {}
+  ~ActiveWindow() { table_.aktivniprozor = before_; }
+  ActiveWindow(const ActiveWindow&) = delete;
+  ActiveWindow& operator=(const ActiveWindow&) = delete;
+
+ private:
+  core::TrackTable& table_;
+  int before_;
+};
+
+}  // namespace velmora::base
