@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 #include <utility>
 
 #include "core/number_text.h"
@@ -195,10 +196,16 @@ void DataFolder::SaveID3nizove(const TrackTable& table) {
       records::write(file.content, element);
     }
   }
-  for (File& file : files) {
+  // Which rows are read is told last, when all that was read stands.
+  beginChange();
+  for (File& file : std::views::reverse(files)) {
     records::writeNothing(file.content, file.nothing);
     store(fileOf(file.column), file.content);
   }
+}
+
+void DataFolder::beginChange() {
+  remove(fileOf(&Track::procitan));
 }
 
 void DataFolder::readNames(TrackTable& table) const {

@@ -31,6 +31,9 @@ class DataFolder {
   void savenizove(const TrackTable& table);
   /// Writes the fifteen tag columns.
   void SaveID3nizove(const TrackTable& table);
+  /// Songs and rows are about to change: until SaveID3nizove has told how, a start of the program takes no
+  /// row for read and asks the files again. So a kill leaves no columns that speak of other songs.
+  void beginChange();
   /// File that a column is kept in, such as "crtapos.txt"; empty for `pevac` and `pesma`.
   static TextView fileOf(Column column);
 

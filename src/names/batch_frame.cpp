@@ -28,6 +28,7 @@ void BatchFrame::run(const Text& caption, const std::vector<int>& rows,
   parts_.closing.run([&] {
     parts_.progress.show(caption);
     review::openUndoGroup(parts_.journal, parts_.form1);
+    parts_.data.beginChange();
     try {
       const review::ArtistBook::Batch artists(parts_.artists);
       walk(rows, treat);

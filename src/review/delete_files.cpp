@@ -92,6 +92,7 @@ void DeleteFiles::deleteRows(std::vector<int> rows, bool withSelection) {
       openUndoGroup(parts_.journal, parts_.form1);
     else
       parts_.journal.appendUndoMarker("st1");
+    parts_.data.beginChange();
     if (parts_.table.aktivniprozor == processingWindow) parts_.progress.show(u"Delete ...");
     try {
       const ArtistBook::Batch artists(parts_.artists);

@@ -35,6 +35,7 @@ void Replay::replayUndo(std::string_view stopKind) {
   undeleteFailed_ = false;
   undeleted_ = {};
   if (!parts_.journal.exists()) return;
+  parts_.data.beginChange();
   try {
     work(stopKind);
     parts_.errors.attempt([this] { parts_.data.savenizove(parts_.table); });

@@ -79,44 +79,51 @@ UndoOutcome TagRestorer::restore(int row, const RowSnapshot& before) {
   if (!parts_.table.hasRow(row)) return UndoOutcome::Done;
   core::Track& track = parts_.table.track(row);
   parts_.table.currentRow = row;  // the dialogs of a failure name its path
-  const bool hadID3v1 = track.imaid3v1.isTrue();
-  const bool hadID3v2 = track.imaid3v2.isTrue();
+  // After a kill the columns know nothing of the file, and whatever tag it has is one that the write made.
+  const bool askFile = before.procitan && !track.procitan.isTrue();
+  const bool madeID3v1 = !before.imaid3v1 && (askFile || track.imaid3v1.isTrue());
+  const bool madeID3v2 = !before.imaid3v2 && (askFile || track.imaid3v2.isTrue());
   fillFromSnapshot(track, before);
   const Text path = before.path;
   if (!parts_.files.fileExists(path)) return UndoOutcome::Done;
 
   const player::FileHandOver handOver(parts_.player, path);
-  if ((hadID3v1 && !before.imaid3v1) || (hadID3v2 && !before.imaid3v2)) {
-    // Until they are gone the columns speak of them, so that an undo that is tried again finds them.
-    track.imaid3v1 = hadID3v1;
-    track.imaid3v2 = hadID3v2;
-    if (!removeNewTags(path, before)) track.procitan = false;
-    track.imaid3v1 = before.imaid3v1;
-    track.imaid3v2 = before.imaid3v2;
+  // As long as such a tag is there its column says so, and an undo that is tried again finds it.
+  track.imaid3v1 = before.imaid3v1 || madeID3v1;
+  track.imaid3v2 = before.imaid3v2 || madeID3v2;
+  if (madeID3v1) {
+    if (!removeID3v1(path)) track.procitan = false;
+    track.imaid3v1 = false;
+  }
+  if (madeID3v2) {
+    if (!removeID3v2(path)) track.procitan = false;
+    track.imaid3v2 = false;
   }
   const UndoOutcome outcome = writeTags(path, track);
   parts_.panel.info(path, row, tags::InfoMode::TagsOnly);
   return outcome;
 }
 
-/// The file is asked, not the columns: after a crash they may speak of a tag that is gone already, and
-/// cutting it off again would cut into the music.
-bool TagRestorer::removeNewTags(const Text& path, const RowSnapshot& before) {
-  bool first = before.imaid3v1;
-  bool second = before.imaid3v2;
-  if (!first)
-    parts_.errors.attempt([&] {
-      tags::cMP3ID3v1 tag(parts_.files);
-      tag.setMP3File(path);
-      if (tag.HasID3v1Tag()) tags::SkiniID3v1(parts_.files, parts_.desktop, parts_.player, path);
-      first = true;
-    });
-  if (!second)
-    parts_.errors.attempt([&] {
-      tags::SkiniID3v2(parts_.files, parts_.desktop, parts_.player, path);
-      second = true;
-    });
-  return first && second;
+/// The file is asked, not the column: after a crash that may speak of a tag that is gone already, and cutting
+/// it off again would cut into the music.
+bool TagRestorer::removeID3v1(const Text& path) {
+  bool removed = false;
+  parts_.errors.attempt([&] {
+    tags::cMP3ID3v1 tag(parts_.files);
+    tag.setMP3File(path);
+    if (tag.HasID3v1Tag()) tags::SkiniID3v1(parts_.files, parts_.desktop, parts_.player, path);
+    removed = true;
+  });
+  return removed;
+}
+
+bool TagRestorer::removeID3v2(const Text& path) {
+  bool removed = false;
+  parts_.errors.attempt([&] {
+    tags::SkiniID3v2(parts_.files, parts_.desktop, parts_.player, path);
+    removed = true;
+  });
+  return removed;
 }
 
 UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {

@@ -33,8 +33,9 @@ class TagRestorer {
   UndoOutcome restore(int row, const RowSnapshot& before);
 
  private:
-  /// Whether the tags are gone that the file had not before.
-  bool removeNewTags(const Text& path, const RowSnapshot& before);
+  /// Both answer whether the tag is gone.
+  bool removeID3v1(const Text& path);
+  bool removeID3v2(const Text& path);
   UndoOutcome writeTags(const Text& path, core::Track& track);
   bool makeWritable(const Text& path);
 

@@ -209,6 +209,22 @@ TEST_F(DataFolderTest, CutAnywhereTheWholeRowsAreLeftAndASaveKeepsThem) {
   }
 }
 
+TEST_F(DataFolderTest, AfterAChangeThatWasCutShortNoRowIsTakenForRead) {
+  fill();
+  data.SaveID3nizove(table);
+  data.savenizove(table);
+  data.beginChange();
+  table.removeRow(1);
+  data.savenizove(table);
+  TrackTable loaded;
+  load(loaded);
+  for (int row = 1; row <= loaded.rows(); ++row)
+    EXPECT_FALSE(loaded.track(row).procitan.isTrue()) << "its tags are those of the row above";
+  data.SaveID3nizove(table);
+  load(loaded);
+  EXPECT_TRUE(loaded.track(1).procitan.isTrue());
+}
+
 TEST_F(DataFolderTest, AnyBytesLoad) {
   Bytes binary;
   for (int i = 0; i < 4000; ++i) binary += static_cast<char>(i * 37 % 251);

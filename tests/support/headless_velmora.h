@@ -42,6 +42,8 @@ class HeadlessVelmora {
   void start();
   /// Ends the program as the system would, and starts it again on the same state.
   void restart();
+  /// Forgets the program without an end of its own, as a kill does: nothing that it knows is saved.
+  void forget() { build(); }
   /// Starts, and brings up the Processing Window when another one is in front.
   void startInProcessingWindow();
 

@@ -1,0 +1,226 @@
+// The program is killed at random moments of its commands, and started again on what that left behind.
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <optional>
+#include <random>
+#include <set>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+#include "core/text.h"
+#include "tests/support/repair_bench.h"
+
+namespace velmora {
+namespace {
+
+using std::chrono::microseconds;
+using std::chrono::steady_clock;
+
+/// VELMORA_KILLS asks for more kills of each command than the usual few.
+int kills() {
+  const char* asked = std::getenv("VELMORA_KILLS");
+  return asked ? std::atoi(asked) : 10;
+}
+
+/// One run of the program with songs that can be told apart by their audio.
+class Victim : public test::RepairHouse {
+ public:
+  using Names = std::map<int, std::string>;  // name of each song, and "" for one that is lost
+
+  void start() {
+    const Bytes frames = test::mpegFrames(600);
+    for (int number = 0; number < songs; ++number) {
+      const std::string digits = std::to_string(100 + number);
+      const test::SongTags tags = {.title = u"song " + core::fromBytes(digits), .artist = u"arvola"};
+      const Bytes second =
+          number % 3 == 0 ? test::Id3v2Maker().values(tags).padding(20).plainBytes() : Bytes();
+      const Bytes first = number % 4 == 0 ? test::id3v1Tag(tags) : Bytes();
+      audio_.push_back(frames + "the end of song " + digits);
+      // A tag that is made begins on the last byte of the music.
+      program.song(u"in/arvola - song " + core::fromBytes(digits) + u".mp3",
+                   second + audio_.back() + "." + first);
+    }
+    program.startInProcessingWindow();
+    program.addFolder(program.folder.path(u"music/in"));
+    form1().tags.writeID3v1.setChecked(true);
+    form1().tags.writeID3v2.setChecked(true);
+  }
+  void fixSyntax() {
+    selectAll();
+    tools().fixSyntax.click();
+  }
+  void growTags() {
+    selectAll();
+    tools().fnToId3.click();
+  }
+  void bothCommands() {
+    growTags();
+    fixSyntax();
+  }
+  void undoAll() {
+    while (tools().undoLastOperation.enabled()) tools().undoLastOperation.click();
+  }
+
+  /// The songs as they lie on the disk. What is no song has another ending.
+  Names songNames() {
+    Names found;
+    for (int number = 0; number < songs; ++number) found[number] = {};
+    const Text folder = program.folder.path(u"music/in");
+    for (const auto& entry : program.files.list(folder).entries) {
+      if (!entry.name.ends_with(u".mp3")) continue;
+      const std::string name = core::toBytes(entry.name);
+      const int number = numberOf(program.files.readAll(folder + u'/' + entry.name));
+      EXPECT_GE(number, 0) << "a song without its music: " << name;
+      EXPECT_EQ(found[number], "") << "also there as " << name;
+      found[number] = name;
+    }
+    return found;
+  }
+  /// The texts of all tags as another program would read them.
+  std::map<int, std::string> songTags() {
+    std::map<int, std::string> tags;
+    for (const auto& [number, name] : songNames()) {
+      const Text bare(core::dropRight(core::fromBytes(name), 4));
+      tags[number] = first(bare) + " / " + second(bare);
+    }
+    return tags;
+  }
+
+ private:
+  static constexpr int songs = 8;
+  int numberOf(const Bytes& bytes) const {
+    for (std::size_t i = 0; i < audio_.size(); ++i)
+      if (bytes.find(audio_[i]) != Bytes::npos) return static_cast<int>(i);
+    return -1;
+  }
+  std::vector<Bytes> audio_;
+};
+
+using Command = void (Victim::*)();
+
+struct Life {
+  microseconds length;
+  bool cutShort;
+};
+
+/// Runs a command of the program in a process of its own and kills that `delay` after its beginning; without
+/// a delay it may come to its end.
+Life runAndKill(Victim& victim, Command command, std::optional<microseconds> delay) {
+  int ready[2];
+  EXPECT_EQ(::pipe(ready), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    [[maybe_unused]] const ssize_t told = ::write(ready[1], "x", 1);
+    (victim.*command)();
+    ::_exit(0);
+  }
+  char byte = 0;
+  EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+  const auto began = steady_clock::now();
+  if (delay) {
+    std::this_thread::sleep_for(*delay);
+    ::kill(child, SIGKILL);
+  }
+  int status = 0;
+  EXPECT_EQ(::waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+  for (const int end : ready) ::close(end);
+  return {std::chrono::duration_cast<microseconds>(steady_clock::now() - began), WIFSIGNALED(status)};
+}
+
+class Kill : public testing::Test {
+ protected:
+  /// What a run of its own makes of the names, and how long it takes.
+  void rehearse(Command before, Command command) {
+    Victim victim;
+    victim.start();
+    if (before) (victim.*before)();
+    lifetime_ = runAndKill(victim, command, {}).length;
+    namesAfter_ = victim.songNames();
+  }
+
+  /// Kills the command again and again; `check` sees the program started afresh after each.
+  void torment(Command before, Command command, const std::function<void(Victim&)>& check) {
+    rehearse(before, command);
+    std::mt19937 random(7);
+    int cutShort = 0;
+    for (int i = 0; i < kills() && !HasFailure(); ++i) {
+      Victim victim;
+      victim.start();
+      namesBefore_ = victim.songNames();
+      tagsBefore_ = victim.songTags();
+      if (before) (victim.*before)();
+      const Victim::Names namesAtStart = victim.songNames();
+      const microseconds delay(random() % static_cast<unsigned>(lifetime_.count()));
+      SCOPED_TRACE("kill " + std::to_string(i) + " after " + std::to_string(delay.count()) + " us");
+      cutShort += runAndKill(victim, command, delay).cutShort;
+      const Victim::Names left = victim.songNames();
+      for (const auto& [number, name] : left)
+        EXPECT_TRUE(name == namesAtStart.at(number) || name == namesAfter_.at(number))
+            << "song " << number << " is now \"" << name << '"';
+      victim.program.forget();
+      victim.program.startInProcessingWindow();
+      EXPECT_TRUE(victim.form1().visible());
+      EXPECT_TRUE(victim.form1().enabled());
+      check(victim);
+    }
+    RecordProperty("cut short", cutShort);
+  }
+  /// A song that was just being changed may have changed without a record.
+  template <typename Values>
+  static int differences(const Values& left, const Values& right) {
+    int count = 0;
+    for (const auto& [number, value] : left) count += right.at(number) != value;
+    return count;
+  }
+
+  /// The songs that the table has, and those of the folder, which may hold an unfinished copy too.
+  static std::set<std::string> listedIn(Victim& victim) {
+    std::set<std::string> names;
+    for (const std::string& name : victim.listed()) names.insert(name + ".mp3");
+    return names;
+  }
+  static std::set<std::string> namesIn(Victim& victim) {
+    std::set<std::string> names;
+    for (const auto& [number, name] : victim.songNames()) names.insert(name);
+    return names;
+  }
+
+  Victim::Names namesBefore_, namesAfter_;
+  std::map<int, std::string> tagsBefore_;
+  microseconds lifetime_{};
+};
+
+TEST_F(Kill, FixSyntaxLosesNoSongAndIsTakenBack) {
+  torment(&Victim::growTags, &Victim::fixSyntax, [this](Victim& victim) {
+    victim.undoAll();
+    EXPECT_LE(differences(victim.songNames(), namesBefore_), 1);
+    EXPECT_LE(differences(victim.songTags(), tagsBefore_), 1);
+  });
+}
+
+TEST_F(Kill, TagsThatGrowAFileLeaveTheOldSongOrTheNewOne) {
+  torment(nullptr, &Victim::growTags, [this](Victim& victim) {
+    victim.undoAll();
+    EXPECT_EQ(victim.songNames(), namesBefore_);
+    EXPECT_LE(differences(victim.songTags(), tagsBefore_), 1);
+  });
+}
+
+TEST_F(Kill, UndoIsBroughtToItsEndByTheNextOne) {
+  torment(&Victim::bothCommands, &Victim::undoAll, [this](Victim& victim) {
+    victim.undoAll();
+    EXPECT_EQ(victim.songNames(), namesBefore_);
+    EXPECT_EQ(victim.songTags(), tagsBefore_);
+    EXPECT_EQ(listedIn(victim), namesIn(victim));
+  });
+}
+
+}  // namespace
+}  // namespace velmora
