@@ -136,13 +136,15 @@ Life runAndKill(Victim& victim, Command command, std::optional<microseconds> del
 
 class Kill : public testing::Test {
  protected:
-  /// What a run of its own makes of the names, and how long it takes.
+  /// What the command makes of the names, and how long it takes at least.
   void rehearse(Command before, Command command) {
-    Victim victim;
-    victim.start();
-    if (before) (victim.*before)();
-    lifetime_ = runAndKill(victim, command, {}).length;
-    namesAfter_ = victim.songNames();
+    for (int i = 0; i < 3; ++i) {
+      Victim victim;
+      victim.start();
+      if (before) (victim.*before)();
+      lifetime_ = std::min(lifetime_, runAndKill(victim, command, {}).length);
+      namesAfter_ = victim.songNames();
+    }
   }
 
   /// Kills the command again and again; `check` sees the program started afresh after each.
@@ -194,7 +196,7 @@ class Kill : public testing::Test {
 
   Victim::Names namesBefore_, namesAfter_;
   std::map<int, std::string> tagsBefore_;
-  microseconds lifetime_{};
+  microseconds lifetime_ = microseconds::max();
 };
 
 TEST_F(Kill, FixSyntaxLosesNoSongAndIsTakenBack) {
