@@ -27,8 +27,8 @@ namespace velmora::test {
 using Names = std::vector<std::string>;
 
 /// A trash that is a folder beside the base, and that refuses one path.
-struct ListTrash final : platform::Trash {
-  ListTrash(platform::Files& realFiles, const TempFolder& tempFolder)
+struct FolderTrash final : platform::Trash {
+  FolderTrash(platform::Files& realFiles, const TempFolder& tempFolder)
       : files(realFiles), folder(tempFolder) {}
   Text send(const Text& path) override {
     if (path == refused) throw platform::FileError(platform::FileError::permissionDenied);
@@ -81,7 +81,7 @@ struct BaseWorld : testing::Test {
   base::Folders folders{{.table = table, .files = files, .journal = journal}};
   base::NewFolders newFolders{
       {.table = table, .dialogs = dialogs, .form3 = form3, .lists = lists, .folders = folders}};
-  ListTrash trash{files, folder};
+  FolderTrash trash{files, folder};
   HeldFile player;
   base::TrashFiles trashFiles{
       {.table = table, .files = files, .trash = trash, .player = player, .progress = progress}};
