@@ -4,6 +4,7 @@
 
 #include "qt/bind.h"
 #include "qt/elided_label.h"
+#include "qt/folder_drop.h"
 #include "qt/grid.h"
 #include "qt/icons.h"
 #include "qt/pane.h"
@@ -78,6 +79,7 @@ Form1View::Form1View(const ViewContext& context, ui::Form1& form1, const ui::For
   layout->addWidget(line());
   layout->addWidget(panes, 1);
   layout->addWidget(makeBottomBar(refresher, form1));
+  takeDroppedFolders(form1.folderTree, this);
   setWindowIcon(programIcon());
   bindWindow(context, form1, this, designSize);
 }

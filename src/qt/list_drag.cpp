@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include <QUrl>
+#include <QCoreApplication>
 
 #include "core/text.h"
 
@@ -11,8 +11,14 @@ namespace velmora::qt {
 namespace {
 
 const QString wordFormat = QStringLiteral("application/x-velmora-list");
+const QString processFormat = QStringLiteral("application/x-velmora-process");
 const QString addressFormat = QStringLiteral("text/uri-list");  // one address a line, ended by CR LF
 constexpr const char* scheme = "file://";
+
+// Another running Velmora has lists of the same words.
+QByteArray thisProcess() {
+  return QByteArray::number(QCoreApplication::applicationPid());
+}
 
 QByteArray bytesOf(const Text& text) {
   return QByteArray::fromStdString(core::toBytes(text));
@@ -32,7 +38,10 @@ Bytes pathOf(QByteArray address) {
 
 std::unique_ptr<QMimeData> carriedBy(const ui::ListBox& list) {
   auto data = std::make_unique<QMimeData>();
-  if (!list.dragWord.empty()) data->setData(wordFormat, bytesOf(list.dragWord));
+  if (!list.dragWord.empty()) {
+    data->setData(wordFormat, bytesOf(list.dragWord));
+    data->setData(processFormat, thisProcess());
+  }
   if (list.dragFiles)
     if (const std::vector<Text> paths = list.dragFiles(); !paths.empty())
       data->setData(addressFormat, addressesOf(paths));
@@ -41,6 +50,7 @@ std::unique_ptr<QMimeData> carriedBy(const ui::ListBox& list) {
 }
 
 Text wordIn(const QMimeData& data) {
+  if (data.data(processFormat) != thisProcess()) return {};
   return core::fromBytes(data.data(wordFormat).toStdString());
 }
 

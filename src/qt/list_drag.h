@@ -13,7 +13,7 @@ namespace velmora::qt {
 
 /// What a drag of the selected rows carries; nothing where the list tells neither word nor files.
 std::unique_ptr<QMimeData> carriedBy(const ui::ListBox& list);
-/// The word of the list that a drag comes from; empty when it does not carry one.
+/// The word of the list that a drag comes from; empty when it comes from no list of this process.
 Text wordIn(const QMimeData& data);
 
 /// The paths as the list of addresses that file managers read, byte by byte, so that names that are no valid

@@ -61,11 +61,21 @@ QPixmap chip(const QListView& view, const QModelIndexList& rows) {
   return picture;
 }
 
-// A drop may start a long command with questions of its own. It has to wait until the drag has ended, which
-// takes its turn in a loop within `startDrag`.
-std::function<void()>& dropToCome() {
-  static std::function<void()> pending;
-  return pending;
+/// A drop may start a long command with questions of its own. It has to wait until the drag has ended, which
+/// takes its turn in a loop within `startDrag`.
+struct Drag {
+  bool goesOn = false;
+  std::function<void()> drop;
+  void end() {
+    goesOn = false;
+    if (const auto act = std::exchange(drop, nullptr))
+      QMetaObject::invokeMethod(qApp, act, Qt::QueuedConnection);
+  }
+};
+
+Drag& theDrag() {
+  static Drag drag;
+  return drag;
 }
 
 }  // namespace
@@ -165,16 +175,16 @@ void ListView::focusOutEvent(QFocusEvent* event) {
 }
 
 void ListView::startDrag(Qt::DropActions) {
+  theDrag().goesOn = true;
   const QModelIndexList rows = selectedIndexes();
-  std::unique_ptr<QMimeData> content = carried && !rows.isEmpty() ? carried() : nullptr;
-  if (!content) return;
-  auto* drag = new QDrag(this);
-  drag->setMimeData(content.release());
-  drag->setPixmap(chip(*this, rows));
-  drag->setHotSpot({-2 * unit, -2 * unit});
-  drag->exec(Qt::CopyAction);  // so that nobody takes away what was dragged
-  if (const auto drop = std::exchange(dropToCome(), nullptr))
-    QMetaObject::invokeMethod(qApp, drop, Qt::QueuedConnection);
+  if (std::unique_ptr<QMimeData> content = carried && !rows.isEmpty() ? carried() : nullptr) {
+    auto* drag = new QDrag(this);
+    drag->setMimeData(content.release());
+    drag->setPixmap(chip(*this, rows));
+    drag->setHotSpot({-2 * unit, -2 * unit});
+    drag->exec(Qt::CopyAction);  // so that nobody takes away what was dragged
+  }
+  theDrag().end();
 }
 
 void ListView::setUnderDrag(bool underDrag) {
@@ -183,7 +193,7 @@ void ListView::setUnderDrag(bool underDrag) {
 }
 
 void ListView::dragEnterEvent(QDragEnterEvent* event) {
-  const bool fits = qobject_cast<ListView*>(event->source()) && accepts && accepts(*event->mimeData());
+  const bool fits = accepts && accepts(*event->mimeData());
   setUnderDrag(fits);
   event->setDropAction(Qt::CopyAction);
   event->setAccepted(fits);
@@ -206,9 +216,10 @@ void ListView::dropEvent(QDropEvent* event) {
   const auto copy = std::make_shared<QMimeData>();
   for (const QString& format : event->mimeData()->formats())
     copy->setData(format, event->mimeData()->data(format));
-  dropToCome() = [view = QPointer(this), copy] {
+  theDrag().drop = [view = QPointer(this), copy] {
     if (view && view->onDropped) view->onDropped(*copy);
   };
+  if (!theDrag().goesOn) theDrag().end();
 }
 
 }  // namespace velmora::qt

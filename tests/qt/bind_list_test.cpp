@@ -167,6 +167,24 @@ TEST_F(BindListTest, KeysGoToTheListFirst) {
   EXPECT_EQ(opened, 2);
 }
 
+TEST_F(BindListTest, LettingGoOfTheMouseComesBehindTheClick) {
+  bind(10);
+  std::vector<int> clicksAtRelease;
+  list.onMouseUp = [&] { clicksAtRelease.push_back(clicks); };
+  clickRow(3);
+  clickRow(3);
+  EXPECT_THAT(clicksAtRelease, ElementsAre(1, 2));
+}
+
+TEST_F(BindListTest, TheListKnowsHowManyRowsAreInSight) {
+  bind(100);
+  const int row = view->visualRect(view->model()->index(0, 0)).height();
+  EXPECT_EQ(list.visibleRows(), view->viewport()->height() / row);
+  view->resize(400, 5 * row + row / 2);
+  bench.turn();
+  EXPECT_EQ(list.visibleRows(), 5);
+}
+
 TEST_F(BindListTest, TheListUnderTheMouseTakesTheFocusWhenTold) {
   bind(10);
   focusUnderMouse(option, view);
