@@ -91,7 +91,6 @@ ColumnPane::ColumnPane(const QString& title) {
   heading_->setContentsMargins(edge, tight, gap, tight);
   title_ = new Title(title);
   count_ = new CountLabel;
-  count_->setAccessibleName("Number of rows");
   heading_->addWidget(title_);
   heading_->addWidget(count_, 1);
   pane->addWidget(head);
@@ -112,6 +111,7 @@ void ColumnPane::showCount(Refresher& refresher, const ui::ListBox& list, const 
   refresher.watch(const_cast<ui::ListBox&>(list), this, [this, &list, noun] {
     if (!list.visible()) return;
     if (list.ListCount() == 0) return count_->clearCount();
+    count_->setAccessibleName("Number of " + noun.many);
     count_->show(countOf(list), list.SelCount(), noun);
   });
 }

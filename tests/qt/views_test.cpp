@@ -1,5 +1,3 @@
-#include "qt/views.h"
-
 #include <gtest/gtest.h>
 #include <set>
 
@@ -14,55 +12,19 @@
 #include <QMenuBar>
 
 #include "qt/list_view.h"
-#include "qt/text.h"
-#include "tests/qt/bench.h"
+#include "tests/qt/all_views.h"
 
 namespace velmora::qt {
 namespace {
 
-class ViewsTest : public testing::Test {
+class ViewsTest : public AllViews {
  protected:
-  ViewsTest() {
-    for (const auto* each : {u"3", u"b"}) windows.form1.List4.AddItem(Text(u"/music/new/") + each + u".mp3");
-    windows.form1.tags.genre.setRows({{u"", 255}, {u"Blues", 0}});
-    showAll();
-  }
-  void showAll() {
-    for (ui::Window* window : windows.all()) window->show();
-    turn();
-  }
-  void turn() {
-    refresher.flush();
-    QCoreApplication::processEvents();
-  }
-  QList<QWidget*> topLevels() {
-    QList<QWidget*> found;
-    for (QWidget* widget : QApplication::topLevelWidgets())
-      if (widget->isVisible() && !widget->windowTitle().isEmpty()) found.append(widget);
-    return found;
-  }
-  QWidget* window(const QString& title) {
-    for (QWidget* widget : topLevels())
-      if (widget->windowTitle() == title) return widget;
-    return nullptr;
-  }
   static bool isControl(const QWidget* widget) {
     return (qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
             qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractItemView*>(widget)) &&
            widget->isVisible() && widget->focusPolicy() != Qt::NoFocus &&
            !qobject_cast<const QComboBox*>(widget->parentWidget());
   }
-  template <typename Widget = QWidget>
-  Widget* named(QWidget* in, const QString& name) {
-    for (Widget* widget : in->findChildren<Widget*>())
-      if (widget->accessibleName() == name) return widget;
-    return nullptr;
-  }
-
-  ui::Windows windows;
-  Refresher refresher;
-  InputGate gate{refresher};
-  Views views{windows, {refresher, gate}};
 };
 
 TEST_F(ViewsTest, EveryWindowHasAView) {
