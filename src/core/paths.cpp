@@ -1,5 +1,7 @@
 #include "core/paths.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 
 namespace velmora::core::paths {
@@ -37,7 +39,8 @@ Text lastThree(TextView path) {
 }
 
 bool fitsRecord(TextView name) {
-  return name.find_first_of(u"\"\r\n") == TextView::npos;
+  return std::ranges::none_of(name,
+                              [](char16_t unit) { return unit == u'"' || unit == u'\r' || unit == u'\n'; });
 }
 
 }  // namespace velmora::core::paths

@@ -7,6 +7,7 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "core/utf8.h"
 #include "platform/file_error.h"
 #include "review/journal_lines.h"
 
@@ -17,6 +18,8 @@ namespace {
 constexpr std::array<std::string_view, 7> markerKinds = {"new", "fix", "dup", "st1", "st2", "dst", "fst"};
 constexpr std::size_t kindLength = 3;
 constexpr BytesView lineEnd = "\r\n";
+constexpr std::size_t roomForLength = 8;    // characters, the blank behind the text included
+constexpr std::size_t usualSnapshot = 400;  // characters
 
 constexpr std::array<core::Column, 14> snapshotColumns = {
     &core::Track::pevacID3v1,  &core::Track::pesmaid3v1,     &core::Track::albumid3v1,
@@ -28,8 +31,19 @@ constexpr std::array<core::Column, 14> snapshotColumns = {
 /// The record between its quotes, with a line end. A line break that would look like the end of the record is
 /// written as a blank, which leaves all lengths right.
 Bytes lineOf(TextView record) {
-  const Text closed = core::replaceAll(Text(record) + u'"', u"\n\"", u" \"");
-  return '"' + core::toBytes(closed) + Bytes(lineEnd);
+  Bytes line = "\"";
+  core::utf8::append(line, record);
+  line += '"';
+  for (std::size_t at = line.find('\n'); at != Bytes::npos; at = line.find('\n', at + 1))
+    if (line[at + 1] == '"') line[at] = ' ';
+  return line += lineEnd;
+}
+
+void appendPrefixed(Text& out, TextView text) {
+  constexpr std::size_t fewestDigits = 3;
+  const Text digits = core::plain(static_cast<std::int64_t>(text.size()));
+  if (digits.size() < fewestDigits) out.append(fewestDigits - digits.size(), u'0');
+  out.append(digits).append(text);
 }
 
 }  // namespace
@@ -38,7 +52,11 @@ UndoJournal::UndoJournal(platform::Files& files, const core::Settings& settings,
     : files_(files), settings_(settings), path_(std::move(path)) {}
 
 void UndoJournal::appendUndoRecord(std::string_view kind, TextView first, TextView rest) {
-  append(core::ascii(kind) + lengthPrefixed(first) + u" " + Text(rest));
+  Text record = core::ascii(kind);
+  record.reserve(record.size() + first.size() + rest.size() + roomForLength);
+  appendPrefixed(record, first);
+  record.append(u" ").append(rest);
+  append(record);
 }
 
 void UndoJournal::appendUndoMarker(std::string_view kind) {
@@ -119,19 +137,20 @@ void UndoJournal::remove() {
 }
 
 Text lengthPrefixed(TextView text) {
-  constexpr std::size_t fewestDigits = 3;
-  Text digits = core::plain(static_cast<std::int64_t>(text.size()));
-  if (digits.size() < fewestDigits) digits.insert(0, fewestDigits - digits.size(), u'0');
-  return digits + Text(text);
+  Text prefixed;
+  appendPrefixed(prefixed, text);
+  return prefixed;
 }
 
 Text rowSnapshot(const core::TrackTable& table, int row) {
   const core::Track& track = table.track(row);
   Text snapshot;
+  snapshot.reserve(usualSnapshot);
   for (const core::Element* flag : {&track.procitan, &track.imaid3v1, &track.imaid3v2})
     snapshot += flag->isTrue() ? u'1' : u'0';
-  for (const core::Column column : snapshotColumns) snapshot += lengthPrefixed((track.*column).text());
-  return snapshot + lengthPrefixed(core::number(std::int64_t{table.brojfajlova()}));
+  for (const core::Column column : snapshotColumns) appendPrefixed(snapshot, (track.*column).text());
+  appendPrefixed(snapshot, core::number(std::int64_t{table.brojfajlova()}));
+  return snapshot;
 }
 
 }  // namespace velmora::review

@@ -25,6 +25,7 @@ using platform::FileError;
 
 namespace {
 
+constexpr std::size_t usualEntries = 16;  // an album
 constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 
 /// A file that nobody may write is read-only for the superuser, too: it is a mark that a user has set.
@@ -127,6 +128,7 @@ platform::FolderListing PosixFiles::list(const Text& folder) {
 
   platform::FolderListing listing;
   listing.id = {status.st_dev, status.st_ino};
+  listing.entries.reserve(usualEntries);
   // Not by opendir, whose buffer from the heap costs more than all else where folders are many and small.
   alignas(dirent64) char block[32 * 1024];
   for (;;) {

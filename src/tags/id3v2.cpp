@@ -124,11 +124,7 @@ void cMP3ID3v2::setGenre(std::uint8_t code) {
 }
 
 void cMP3ID3v2::replaceFrame(BytesView frame, const Text& body) {
-  try {
-    frames_.remove(frame);
-  } catch (const platform::FileError&) {
-    // A frame that is not there yet is the usual case.
-  }
+  if (frames_.has(frame)) frames_.remove(frame);
   AddTag(frame, body);
 }
 

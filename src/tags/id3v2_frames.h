@@ -18,6 +18,8 @@ class FrameTable {
   int count() const { return static_cast<int>(frames_.size()); }
   /// Identifier at a place, 1 to count(); empty outside.
   const Bytes& name(int index) const;
+  /// Whether `remove` will find this identifier.
+  bool has(BytesView name) const { return find(name) != nullptr; }
   /// Number of frames with this identifier; 0 when it is unknown.
   int tags(BytesView name) const;
   /// Body of one frame. Throws FileError when there is none.

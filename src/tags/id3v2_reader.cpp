@@ -109,6 +109,7 @@ std::optional<FrameReader::Found> FrameReader::next() {
 Bytes CleanFrameText(BytesView body) {
   if (body.size() >= 300) return Bytes(body);
   Bytes clean;
+  clean.reserve(body.size());
   std::ranges::copy_if(body, std::back_inserter(clean), [](char byte) { return byte >= 32 && byte <= 126; });
   return clean;
 }
