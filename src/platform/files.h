@@ -106,6 +106,8 @@ class Files {
   virtual Text volumeOf(const Text& path) = 0;
   /// Bytes that the user may still write on the volume of `path`.
   virtual std::uint64_t freeBytes(const Text& path) = 0;
+  /// Mount points of the volumes that hold files, sorted; empty where the system does not tell. Never throws.
+  virtual std::vector<Text> volumes() { return {}; }
 };
 
 }  // namespace velmora::platform

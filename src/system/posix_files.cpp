@@ -14,6 +14,7 @@
 #include "core/text.h"
 #include "platform/file_error.h"
 #include "system/descriptor.h"
+#include "system/mounts.h"
 #include "system/posix_error.h"
 #include "system/posix_move.h"
 #include "system/posix_open_file.h"
@@ -305,6 +306,10 @@ std::uint64_t PosixFiles::freeBytes(const Text& path) {
   struct statvfs volume;
   if (::statvfs(folder.c_str(), &volume) != 0) throwErrno(folder);
   return static_cast<std::uint64_t>(volume.f_bavail) * volume.f_frsize;
+}
+
+std::vector<Text> PosixFiles::volumes() {
+  return mountPoints();
 }
 
 }  // namespace velmora::system

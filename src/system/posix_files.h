@@ -26,6 +26,7 @@ class PosixFiles final : public platform::Files {
   bool busy(const Text& path) override;
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;
+  std::vector<Text> volumes() override;
 };
 
 }  // namespace velmora::system

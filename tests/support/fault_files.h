@@ -54,6 +54,7 @@ class FaultFiles final : public platform::Files {
   bool busy(const Text& path) override { return real_.busy(path); }
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;
+  std::vector<Text> volumes() override { return real_.volumes(); }
 
  private:
   friend class FaultFile;
