@@ -42,7 +42,7 @@ class MoveSummary {
   double sizeOf(const Text& path);
 
   Parts parts_;
-  std::unordered_map<Text, Text> volumes_;   // by folder
+  std::unordered_map<Text, Text> volumes_;  // by folder
   std::unordered_map<Text, double> sizes_;  // by path
 };
 

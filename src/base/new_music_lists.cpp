@@ -89,7 +89,8 @@ void NewMusicLists::List1Click() {
   const std::vector<GenreRow> genres = chosenGenres();
   if (genres.size() == 1 && genres.front().index >= firstGenre) form2_.Combo1.setText(genres.front().text);
   std::vector<ui::ListItem> chosen;
-  for (const GenreRow& genre : genres) chosen.push_back({genre.index == 1 ? Text() : genre.text, genre.index});
+  for (const GenreRow& genre : genres)
+    chosen.push_back({genre.index == 1 ? Text() : genre.text, genre.index});
   form2_.List5.fillItems(std::move(chosen));
   if (!genres.empty()) form2_.List2.fill(NewMusicRows(parts_.table).artists(genres));
   chooseFirstArtist();
@@ -176,8 +177,7 @@ void NewMusicLists::List3Click() {
   clearSongs();
   keepEveryAlone(form2_.List3);
   const core::TrackTable& table = parts_.table;
-  std::vector<int> rows =
-      NewMusicRows(table).songs(chosenGenres(), selectedTexts(form2_.List2));
+  std::vector<int> rows = NewMusicRows(table).songs(chosenGenres(), selectedTexts(form2_.List2));
   const std::vector<Text> albums = selectedTexts(form2_.List3);
   form2_.List7.fill(albums);
   if (!form2_.List3.Selected(0)) {

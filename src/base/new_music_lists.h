@@ -2,9 +2,9 @@
 
 #include <vector>
 
+#include "base/move_summary.h"
 #include "base/new_music_mirror.h"
 #include "base/new_music_rows.h"
-#include "base/move_summary.h"
 #include "core/settings.h"
 #include "core/track_table.h"
 #include "platform/files.h"
@@ -32,13 +32,13 @@ class NewMusicLists {
   /// Empties the columns and lists the genres anew.
   void IzlistajVrste();
 
-  void List1Click();   ///< genres by tag
-  void Dir1Click();    ///< folders in their place
+  void List1Click();  ///< genres by tag
+  void Dir1Click();   ///< folders in their place
   void Drive1Change();
-  void List2Click();   ///< artists
-  void List3Click();   ///< albums by tag
-  void List8Click();   ///< albums by folder
-  void List4Click();   ///< titles
+  void List2Click();  ///< artists
+  void List3Click();  ///< albums by tag
+  void List8Click();  ///< albums by folder
+  void List4Click();  ///< titles
 
   // The options were chosen.
   void genresByTag();

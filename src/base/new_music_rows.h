@@ -10,9 +10,9 @@
 namespace velmora::base {
 
 // Rows of the New Music Window's lists that stand for no name of their own.
-inline constexpr TextView everyAutor = u"-<< Every Autor >>-";                   ///< List1, index 0
-inline constexpr TextView withoutGenree = u"-<< Without Genree >>-";             ///< List1, index 1
-inline constexpr TextView everySongs = u"-<< Every Songs >>-";                   ///< List3 and List8, index 0
+inline constexpr TextView everyAutor = u"-<< Every Autor >>-";        ///< List1, index 0
+inline constexpr TextView withoutGenree = u"-<< Without Genree >>-";  ///< List1, index 1
+inline constexpr TextView everySongs = u"-<< Every Songs >>-";        ///< List3 and List8, index 0
 inline constexpr TextView withoutAlbumAndYear = u"-<< Without Album And Year >>-";  ///< List3, index 1
 inline constexpr int firstGenre = 2;   ///< index of the first real genre in List1
 inline constexpr int firstAlbum = 2;   ///< index of the first real album in List3

@@ -30,8 +30,7 @@ TextView TagYear(const core::TrackTable& table, int row) {
 }
 
 Text TagAlbumYear(const core::TrackTable& table, int row) {
-  const Text whole =
-      Text(core::trim(TagAlbum(table, row))) + u"  " + Text(TagYear(table, row));
+  const Text whole = Text(core::trim(TagAlbum(table, row))) + u"  " + Text(TagYear(table, row));
   return Text(core::trim(whole));
 }
 

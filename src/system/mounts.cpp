@@ -13,7 +13,7 @@ namespace velmora::system {
 namespace {
 
 /// File systems without a device that hold files of the user's all the same.
-constexpr std::array<BytesView, 9> withoutDevice = {"nfs", "nfs4", "cifs", "smb3",     "9p",
+constexpr std::array<BytesView, 9> withoutDevice = {"nfs", "nfs4",  "cifs",    "smb3",    "9p",
                                                     "zfs", "btrfs", "overlay", "virtiofs"};
 
 bool holdsFiles(BytesView device, BytesView type) {
