@@ -107,8 +107,12 @@ void NewMusicLists::Dir1Click() {
   const Text novidir = parts_.settings.get(u"novidir");
   form2_.List2.fill(folder == openEnded(novidir) ? parts_.table.autori
                                                  : NewMusicRows(parts_.table).artistsInFolder(folder));
-  form2_.Combo1.setText(Text(core::paths::fileName(folder)));
+  form2_.Combo1.setText(folderGenre());
   chooseFirstArtist();
+}
+
+Text NewMusicLists::folderGenre() const {
+  return Text(core::paths::fileName(openEnded(form2_.Dir1.path())));
 }
 
 void NewMusicLists::Drive1Change() {
@@ -225,24 +229,44 @@ void NewMusicLists::List4Click() {
   if (!quiet() && table.aktivniprozor == newMusicWindow) parts_.mirror.showSong(row);
 }
 
-void NewMusicLists::genresByTag() {
+void NewMusicLists::showGenresByTag() {
   form2_.List1.setVisible(true);
   form2_.Combo1.setVisible(true);
   form2_.Dir1.setVisible(false);
   form2_.Drive1.setVisible(false);
+}
+
+void NewMusicLists::genresByTag() {
+  if (held_ > 0) return;
+  showGenresByTag();
   selectOnly(form2_.List1, 0);
 }
 
-void NewMusicLists::genresByFolder() {
+void NewMusicLists::showFolderTree(Text folder) {
   form2_.List1.setVisible(false);
-  selectOnly(form2_.List1, 0);
-  form2_.Dir1.setPath(parts_.settings.get(u"novidir"));
+  form2_.Dir1.setPath(std::move(folder));
   listVolumes();
   form2_.Dir1.setVisible(true);
   form2_.Drive1.setVisible(true);
 }
 
+void NewMusicLists::showFolder(const Text& folder) {
+  {
+    const ClickHold hold(held_);
+    selectOnly(form2_.List1, 0);
+  }
+  showFolderTree(folder);
+  Dir1Click();
+}
+
+void NewMusicLists::genresByFolder() {
+  if (held_ > 0) return;
+  selectOnly(form2_.List1, 0);
+  showFolderTree(parts_.settings.get(u"novidir"));
+}
+
 void NewMusicLists::albumsByTag() {
+  if (held_ > 0) return;
   form2_.List3.setVisible(true);
   form2_.List8.setVisible(false);
   // List4 showed what List8 had chosen.
@@ -250,6 +274,7 @@ void NewMusicLists::albumsByTag() {
 }
 
 void NewMusicLists::albumsByFolder() {
+  if (held_ > 0) return;
   form2_.List3.setVisible(false);
   form2_.List8.setVisible(true);
   fillFolders(NewMusicRows(parts_.table));

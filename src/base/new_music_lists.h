@@ -46,6 +46,9 @@ class NewMusicLists {
   void albumsByTag();
   void albumsByFolder();
 
+  /// The genre column goes by tag, or by folder with this one opened. Nothing is chosen in it by tag.
+  void showGenresByTag();
+  void showFolder(const Text& folder);
   /// Fills Drive1 with the machine's volumes, and shows the one that Dir1 lies on.
   void listVolumes();
   /// An artist came into the working list, or left it, while another window than the Processing Window is in
@@ -55,11 +58,14 @@ class NewMusicLists {
 
   /// The selected rows of the genre column; in folder mode the one that stands for all files.
   std::vector<GenreRow> chosenGenres() const;
+  /// Name of the opened folder, which stands for the genre while the genre column goes by folder.
+  Text folderGenre() const;
   /// How many holds keep the clicks of this window's lists from doing anything; see ClickHold.
   int& held() { return held_; }
 
  private:
   bool quiet() const { return parts_.table.puniliste == 1; }
+  void showFolderTree(Text folder);
   void clearArtists();
   void clearSongs();
   void chooseFirstArtist();

@@ -1,8 +1,12 @@
 #include "review/row_keeper.h"
 
 #include <algorithm>
+#include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include "core/number_text.h"
+#include "list/display_limit.h"
 #include "list/view_choice.h"
 #include "names/grammar.h"
 #include "platform/file_error.h"
@@ -23,11 +27,35 @@ void fillFromSnapshot(core::Track& track, const RowSnapshot& snapshot) {
   track.nizdes = snapshot.path;
 }
 
+bool RowKeeper::listFollows() const {
+  return batches_ == 0 && list::viewOf(parts_.form1) == list::View::Music;
+}
+
+/// Fills the file list from the rows. The lines that were selected are known by their paths.
+void RowKeeper::listRows() {
+  if (list::viewOf(parts_.form1) != list::View::Music) return;
+  ui::ListBox& list = parts_.form1.List4;
+  std::unordered_set<Text> selected;
+  for (const int index : list.selectedIndexes()) selected.insert(list.List(index));
+  const int top = list.TopIndex();
+  const int rows = list::shownRows(parts_.table.workingRows());
+  std::vector<Text> paths;
+  paths.reserve(static_cast<std::size_t>(rows));
+  std::vector<int> stillSelected;
+  for (int row = 1; row <= rows; ++row) {
+    paths.push_back(parts_.table.path(row));
+    if (selected.contains(paths.back())) stillSelected.push_back(row - 1);
+  }
+  list.fill(std::move(paths));
+  if (!stillSelected.empty()) list.select(stillSelected, stillSelected.front());
+  list.setTopIndex(top);
+}
+
 void RowKeeper::removeRow(int row) {
   core::TrackTable& table = parts_.table;
   if (!table.hasRow(row)) return;
   parts_.journal.appendUndoRecord("izb", core::number(std::int64_t{row}), rowSnapshot(table, row));
-  const bool listed = row <= table.brojfajlova() && list::viewOf(parts_.form1) == list::View::Music;
+  const bool listed = row <= table.brojfajlova() && listFollows();
   const Text artist = table.track(row).pevac.text();
   table.removeRow(row);
   if (listed) parts_.form1.List4.RemoveItem(row - 1);
@@ -55,8 +83,7 @@ void RowKeeper::restoreRow(int row, const RowSnapshot& snapshot, const Text& pat
   if (table.vrsta == duplicatesView && onDuplicateRestored) onDuplicateRestored(row);
   if (working) {
     ui::ListBox& list = parts_.form1.List4;
-    if (list::viewOf(parts_.form1) == list::View::Music && row - 1 <= list.ListCount())
-      list.insertItem(row - 1, path);
+    if (listFollows() && row - 1 <= list.ListCount()) list.insertItem(row - 1, path);
     try {
       table.velicinasfiles += static_cast<double>(parts_.files.size(path));
     } catch (const platform::FileError&) {

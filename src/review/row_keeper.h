@@ -33,8 +33,28 @@ class RowKeeper {
   /// when the table still has the row.
   void restoreRow(int row, const RowSnapshot& snapshot, const Text& path);
 
+  /// Open while a command removes or restores many rows, so that each costs the same however long the file
+  /// list is: the list follows all at once when the last scope closes, and keeps its selection. Its lines
+  /// are not those of the rows meanwhile.
+  class Batch {
+   public:
+    explicit Batch(RowKeeper& keeper) : keeper_(keeper) { ++keeper_.batches_; }
+    ~Batch() {
+      if (--keeper_.batches_ == 0) keeper_.listRows();
+    }
+    Batch(const Batch&) = delete;
+    Batch& operator=(const Batch&) = delete;
+
+   private:
+    RowKeeper& keeper_;
+  };
+
  private:
+  bool listFollows() const;
+  void listRows();
+
   Parts parts_;
+  int batches_ = 0;
 };
 
 /// Gives a row the flags, tag columns and path of a snapshot.

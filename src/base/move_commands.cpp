@@ -1,0 +1,155 @@
+#include "base/move_commands.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/active_window.h"
+#include "base/base_tree.h"
+#include "base/busy.h"
+#include "base/move_names.h"
+#include "base/music_undo_group.h"
+#include "core/number_text.h"
+#include "core/text.h"
+#include "list/file_sizes.h"
+#include "list/quiet_lists.h"
+#include "platform/file_error.h"
+
+namespace velmora::base {
+
+namespace {
+
+const Text preparing = u"Preparing to move ...";
+const Text moving = u"Moving ...";
+
+/// The one selected row; the caller knows that there is just one.
+const Text& selectedText(const ui::ListBox& list) {
+  return list.List(list.selectedIndexes().front());
+}
+
+/// The row that was clicked last where it is selected, else the first selected one; -1 without a selection.
+int clickedIndex(const ui::ListBox& list) {
+  if (list.SelCount() == 0) return -1;
+  return list.Selected(list.ListIndex()) ? list.ListIndex() : list.selectedIndexes().front();
+}
+
+}  // namespace
+
+void MoveCommands::refuse(const Text& text) {
+  parts_.dialogs.message(text, u"Move", platform::Buttons::Ok, platform::Icon::Exclamation);
+}
+
+void MoveCommands::moveGenre() {
+  const bool chosen = form2_.genreByTag.chosen() ? form2_.List1.SelCount() > 0 : form2_.List2.ListCount() > 0;
+  if (!chosen || !parts_.newFolders.haveRoot()) return;
+  run(MoveColumn::Genre, preparing, [this](MoveCollect& collect) { return planGenres(collect); });
+}
+
+Text MoveCommands::planGenres(MoveCollect& collect) const {
+  const Text& root = parts_.base.root();
+  if (form2_.genreByFolder.chosen()) {
+    const Text genre = parts_.lists.folderGenre();
+    collect.folderOfMusic(root + pathLevel(genre));
+    return genre;
+  }
+  collect.genres(parts_.lists.chosenGenres(), root);
+  const int clicked = clickedIndex(form2_.List1);
+  return genreFolder({clicked, form2_.List1.List(clicked)});
+}
+
+void MoveCommands::moveArtist() {
+  if (form2_.List2.SelCount() == 0) return;
+  if (form3_.List1.SelCount() != 1) return refuse(u"Select only ONE item in genre list from Base.");
+  run(MoveColumn::Artist, preparing, [this](MoveCollect& collect) {
+    collect.artists(parts_.lists.chosenGenres(), parts_.base.root() + AppendPath(selectedText(form3_.List1)));
+    return artistFolder(form2_.List2.List(clickedIndex(form2_.List2)));
+  });
+}
+
+void MoveCommands::moveAlbum() {
+  const bool byTag = form2_.albumByTag.chosen();
+  const ui::ListBox& albums = byTag ? form2_.List3 : form2_.List8;
+  if (albums.SelCount() == 0) return;
+  if (form3_.List1.SelCount() != 1 || form3_.List2.SelCount() != 1)
+    return refuse(u"Select only ONE item in genre and artist List from Base.");
+  run(MoveColumn::Album, moving, [this, byTag, &albums](MoveCollect& collect) {
+    const Text artist =
+        parts_.base.root() + AppendPath(selectedText(form3_.List1)) + AppendPath(selectedText(form3_.List2));
+    collect.albums(parts_.lists.chosenGenres(), artist);
+    const int clicked = clickedIndex(albums);
+    const Text& row = albums.List(clicked);
+    const Text name = byTag ? albumFolder(clicked, row) : albumFolderOfFolder(clicked, row);
+    return name.empty() ? Text(withoutFolder) : name;
+  });
+}
+
+void MoveCommands::moveTitle() {
+  if (form2_.List4.SelCount() == 0) return;
+  for (const ui::ListBox* list : {&form3_.List1, &form3_.List2, &form3_.List3})
+    if (list->SelCount() != 1) return refuse(u"Select One Item From Genre, Artist and Album List In Base.");
+  run(MoveColumn::Title, moving, [this](MoveCollect& collect) {
+    collect.titles(parts_.base.root() + AppendPath(selectedText(form3_.List1)) +
+                   AppendPath(selectedText(form3_.List2)) + AppendPath(selectedText(form3_.List3)));
+    return Text();
+  });
+}
+
+void MoveCommands::run(MoveColumn column, const Text& caption,
+                       const std::function<Text(MoveCollect&)>& plan) {
+  const ActiveWindow atWork(parts_.table, newMusicWindow);
+  {
+    const Busy busy(parts_.windows, parts_.progress, caption);
+    openMusicUndoGroup(parts_.journal, parts_.snapshot);
+    AfterMove after({parts_.table, parts_.windows, parts_.base, parts_.lists});
+    Text target;
+    std::vector<PlannedMove> moves;
+    {
+      const list::QuietLists quietly(parts_.table);
+      MoveCollect collect(parts_.table, form2_, parts_.folders);
+      target = plan(collect);
+      moves = collect.take();
+    }
+    parts_.progress.setText(moving);
+    // Artists that leave the list are looked for here; all is listed anew in the end.
+    form2_.List2.Clear();
+    apply(moves);
+    after.restore(column, target);
+  }
+  parts_.summary.moze();
+}
+
+void MoveCommands::apply(const std::vector<PlannedMove>& moves) {
+  double bytes = 0;
+  try {
+    const review::ArtistBook::Batch artists(parts_.artists);
+    const review::RowKeeper::Batch rows(parts_.rows);
+    moveAll(moves, bytes);
+  } catch (const platform::FileError&) {
+    // Nothing more goes when it cannot be journalled.
+  }
+  core::TrackTable& table = parts_.table;
+  table.velicinasfiles = std::max(0.0, table.velicinasfiles - bytes);
+  parts_.settings.set(u"velicinasfiles", core::number(table.velicinasfiles));
+  if (table.currentRow == 0) parts_.panel.clear();
+  parts_.data.savenizove(table);
+  parts_.data.SaveID3nizove(table);
+}
+
+void MoveCommands::moveAll(const std::vector<PlannedMove>& moves, double& bytes) {
+  core::TrackTable& table = parts_.table;
+  review::RemovedRows removed(table.rows());
+  const auto count = static_cast<double>(moves.size());
+  double done = 0;
+  for (const PlannedMove& move : moves) {
+    parts_.progress.UpdateProgress(++done / count * 100);
+    if (table.Stop) return;
+    const double size = list::bytesOf(parts_.files, move.from);
+    const int rows = table.rows();
+    const review::MoveResult result = parts_.mover.moveFile(move.from, move.to, removed.now(move.row));
+    if (result == review::MoveResult::Abort) return;
+    if (table.rows() == rows) continue;
+    removed.remove(move.row);
+    bytes += size;
+  }
+}
+
+}  // namespace velmora::base

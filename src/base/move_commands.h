@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "base/after_move.h"
+#include "base/move_collect.h"
+#include "base/move_summary.h"
+#include "base/new_folders.h"
+#include "base/window_snapshot.h"
+#include "core/data_folder.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "review/artist_book.h"
+#include "review/row_keeper.h"
+#include "review/row_mover.h"
+#include "review/undo_journal.h"
+#include "tags/file_panel.h"
+#include "ui/progress.h"
+
+namespace velmora::base {
+
+/// "MOVE" under the four columns of the New Music Window: files what is selected there under the row that is
+/// selected in the base. First all moves are planned and the folders made, then the files go one by one.
+class MoveCommands {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    core::Settings& settings;
+    core::DataFolder& data;
+    platform::Files& files;
+    platform::Dialogs& dialogs;
+    ui::Windows& windows;
+    ui::Progress& progress;
+    tags::FilePanel& panel;
+    review::UndoJournal& journal;
+    review::ArtistBook& artists;
+    review::RowKeeper& rows;
+    review::RowMover& mover;
+    BaseLists& base;
+    Folders& folders;
+    NewFolders& newFolders;
+    NewMusicLists& lists;
+    MoveSummary& summary;
+    WindowSnapshot& snapshot;
+  };
+  explicit MoveCommands(const Parts& parts)
+      : parts_(parts), form2_(parts.windows.form2), form3_(parts.windows.form3) {}
+
+  void moveGenre();
+  void moveArtist();
+  void moveAlbum();
+  void moveTitle();
+
+ private:
+  /// What is the same for all four: `plan` goes through the selection and returns the name that the base is
+  /// to select afterwards.
+  void run(MoveColumn column, const Text& caption, const std::function<Text(MoveCollect&)>& plan);
+  void apply(const std::vector<PlannedMove>& moves);
+  void moveAll(const std::vector<PlannedMove>& moves, double& bytes);
+  void refuse(const Text& text);
+  Text planGenres(MoveCollect& collect) const;
+
+  Parts parts_;
+  ui::Form2& form2_;
+  ui::Form3& form3_;
+};
+
+}  // namespace velmora::base

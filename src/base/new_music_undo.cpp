@@ -1,0 +1,41 @@
+#include "base/new_music_undo.h"
+
+#include "base/active_window.h"
+#include "base/busy.h"
+#include "base/music_undo_group.h"
+#include "core/number_text.h"
+#include "list/quiet_lists.h"
+
+namespace velmora::base {
+
+void NewMusicUndo::undoLastOperation() {
+  const Text caption = u"Undoing ...";
+  ui::Form2& form2 = parts_.windows.form2;
+  const ActiveWindow atWork(parts_.table, newMusicWindow);
+  form2.statusLabel.setText(caption);
+  {
+    const Busy busy(parts_.windows, parts_.progress, caption);
+    const list::QuietLists quietly(parts_.table);
+    reached_.reset();
+    // Artists that come back need not be looked for here; all is listed anew in the end.
+    form2.List2.Clear();
+    {
+      const review::RowKeeper::Batch rows(parts_.rows);
+      parts_.replay.replayUndo("st2");
+    }
+    parts_.settings.set(u"velicinasfiles", core::number(parts_.table.velicinasfiles));
+    if (reached_)
+      parts_.snapshot.restore(*reached_);
+    else
+      parts_.snapshot.listAnew();
+  }
+  form2.statusLabel.setText({});
+  parts_.summary.moze();
+  showState();
+}
+
+void NewMusicUndo::showState() {
+  parts_.windows.form2.undoLastOperation.setEnabled(parts_.journal.lastUndoMarker() == "st2");
+}
+
+}  // namespace velmora::base

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+
+#include "base/move_summary.h"
+#include "base/window_snapshot.h"
+#include "core/settings.h"
+#include "core/track_table.h"
+#include "review/replay.h"
+#include "review/row_keeper.h"
+#include "review/undo_journal.h"
+#include "ui/progress.h"
+#include "ui/windows.h"
+
+namespace velmora::base {
+
+/// "Undo Last Operation" of the New Music Window, and its button.
+class NewMusicUndo {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    core::Settings& settings;
+    ui::Windows& windows;
+    ui::Progress& progress;
+    review::UndoJournal& journal;
+    review::Replay& replay;
+    review::RowKeeper& rows;
+    MoveSummary& summary;
+    WindowSnapshot& snapshot;
+  };
+  explicit NewMusicUndo(const Parts& parts) : parts_(parts) {}
+
+  void undoLastOperation();
+  /// Enables the button by what stands on top of the journal.
+  void showState();
+  /// A replay came to the snapshot of both windows: it is put back when the replay is over.
+  void windowState(const Text& snapshot) { reached_ = snapshot; }
+
+ private:
+  Parts parts_;
+  std::optional<Text> reached_;
+};
+
+}  // namespace velmora::base

@@ -1,0 +1,58 @@
+#include "review/row_mover.h"
+
+#include <optional>
+
+#include "platform/file_error.h"
+#include "review/undo_record.h"
+
+namespace velmora::review {
+
+using platform::FileError;
+
+MoveResult RowMover::moveFile(const Text& path, const Text& target, int likelyRow) {
+  Text movedTo;
+  const MoveResult result = parts_.mover.move(path, target, &movedTo);
+  if (result != MoveResult::Moved || parts_.table.puniliste == 1) return result;
+  record(path, movedTo, findRow(path, likelyRow));
+  return result;
+}
+
+/// 0 when no row of the working list has the path.
+int RowMover::findRow(const Text& path, int likelyRow) const {
+  const core::TrackTable& table = parts_.table;
+  if (likelyRow >= 1 && likelyRow <= table.workingRows() && table.path(likelyRow) == path) return likelyRow;
+  for (int row = 1; row <= table.workingRows(); ++row)
+    if (table.path(row) == path) return row;
+  return 0;
+}
+
+void RowMover::record(const Text& path, const Text& movedTo, int row) {
+  const double listedBytes = parts_.table.velicinasfiles;
+  const Text snapshot = row > 0 ? rowSnapshot(parts_.table, row) : Text();
+  bool removed = false;
+  try {
+    if (row > 0) parts_.rows.removeRow(row);
+    removed = row > 0;
+    parts_.journal.appendUndoRecord("mov", path, movedTo);
+  } catch (const FileError&) {
+    // What cannot be taken back must not stay.
+    if (movedTo != path) parts_.files.move(movedTo, path);
+    if (removed)
+      if (const auto before = parseRowSnapshot(snapshot)) parts_.rows.restoreRow(row, *before, path);
+    parts_.table.velicinasfiles = listedBytes;
+    throw;
+  }
+}
+
+void RemovedRows::remove(int row) {
+  for (auto place = static_cast<std::size_t>(row); place < removed_.size(); place += place & (~place + 1))
+    ++removed_[place];
+}
+
+int RemovedRows::now(int row) const {
+  int before = 0;
+  for (auto place = static_cast<std::size_t>(row); place > 0; place &= place - 1) before += removed_[place];
+  return row - before;
+}
+
+}  // namespace velmora::review
