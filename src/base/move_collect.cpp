@@ -88,11 +88,15 @@ std::vector<MoveCollect::Group> MoveCollect::byAlbum(const std::vector<int>& row
   return groups;
 }
 
+/// What could not be made is told when a file cannot be moved there. Nothing is made below it, so that every
+/// folder stands in the journal.
 void MoveCollect::makeFolder(const Text& folder) {
+  for (const Text& missing : missing_)
+    if (folder.starts_with(missing)) return;
   try {
     folders_.PostojiDir(folder);
   } catch (const platform::FileError&) {
-    // The move of each file that was to go there tells the user.
+    missing_.push_back(folder);
   }
 }
 

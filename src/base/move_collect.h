@@ -56,6 +56,7 @@ class MoveCollect {
   NewMusicRows rows_;
   std::vector<PlannedMove> moves_;
   std::vector<bool> planned_;  // by row
+  std::vector<Text> missing_;  // folders that could not be made
 };
 
 }  // namespace velmora::base

@@ -26,6 +26,16 @@ int RowMover::findRow(const Text& path, int likelyRow) const {
   return 0;
 }
 
+/// Returns where the file lies now.
+Text RowMover::moveBack(const Text& movedTo, const Text& path) {
+  try {
+    if (movedTo != path) parts_.files.move(movedTo, path);
+    return path;
+  } catch (const FileError&) {
+    return movedTo;
+  }
+}
+
 void RowMover::record(const Text& path, const Text& movedTo, int row) {
   const double listedBytes = parts_.table.velicinasfiles;
   const Text snapshot = row > 0 ? rowSnapshot(parts_.table, row) : Text();
@@ -35,10 +45,13 @@ void RowMover::record(const Text& path, const Text& movedTo, int row) {
     removed = row > 0;
     parts_.journal.appendUndoRecord("mov", path, movedTo);
   } catch (const FileError&) {
-    // What cannot be taken back must not stay.
-    if (movedTo != path) parts_.files.move(movedTo, path);
-    if (removed)
-      if (const auto before = parseRowSnapshot(snapshot)) parts_.rows.restoreRow(row, *before, path);
+    // What cannot be taken back must not stay. Where the file cannot go back either, its row follows it.
+    const Text place = moveBack(movedTo, path);
+    const auto before = parseRowSnapshot(snapshot);
+    if (removed && before)
+      parts_.rows.restoreRow(row, *before, place);
+    else if (row > 0)
+      parts_.table.track(row).nizdes = place;
     parts_.table.velicinasfiles = listedBytes;
     throw;
   }

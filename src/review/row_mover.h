@@ -24,11 +24,13 @@ class RowMover {
 
   /// Moves a file to the full path `target`. Unless `puniliste` is 1 the row of the file leaves the table and
   /// the move is journalled ("izb", "mov"). `likelyRow` is where the row is looked for first. Throws
-  /// FileError when the move could not be journalled; file and row are then as they were.
+  /// FileError when the move could not be journalled; file and row are then as they were, or, where the file
+  /// cannot go back, the row tells where it lies.
   MoveResult moveFile(const Text& path, const Text& target, int likelyRow = 0);
 
  private:
   int findRow(const Text& path, int likelyRow) const;
+  Text moveBack(const Text& movedTo, const Text& path);
   void record(const Text& path, const Text& movedTo, int row);
 
   Parts parts_;

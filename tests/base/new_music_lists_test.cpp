@@ -1,0 +1,257 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "base/tag_values.h"
+#include "tests/base/naive_lists.h"
+#include "tests/base/new_music_world.h"
+#include "tests/support/mp3_maker.h"
+
+namespace velmora {
+namespace {
+
+using base::NewMusicRows;
+using test::Names;
+
+struct NewMusicListsTest : test::NewMusicWorld {};
+
+TEST(TagValues, TheSecondTagWinsAndBlanksCountAsNothing) {
+  core::TrackTable table;
+  table.appendPath(u"/m/a.mp3");
+  table.resizeColumns();
+  core::Track& track = table.track(1);
+  track.vrstaid3v1 = u"Rock";
+  track.albumid3v1 = u" First ";
+  track.godinaid3v1 = u"1998";
+  EXPECT_EQ(base::TagGenre(table, 1), u"") << "values of a tag that the file does not have";
+  track.imaid3v1 = true;
+  EXPECT_EQ(base::TagGenre(table, 1), u"Rock");
+  EXPECT_EQ(base::TagAlbumYear(table, 1), u"First  1998");
+  track.imaid3v2 = true;
+  EXPECT_EQ(base::TagGenre(table, 1), u"") << "a tag without the value wins all the same";
+  track.vrstaid3v2 = u"Pop";
+  track.albumid3v2 = u"  ";
+  track.godinaid3v2 = u"2001";
+  EXPECT_EQ(base::TagGenre(table, 1), u"Pop");
+  EXPECT_EQ(base::TagAlbum(table, 1), u"");
+  EXPECT_EQ(base::TagAlbumYear(table, 1), u"2001");
+}
+
+TEST_F(NewMusicListsTest, AnEmptyTableLeavesAllListsEmpty) {
+  music.IzlistajVrste();
+  for (const ui::ListBox* list : {&form2.List1, &form2.List2, &form2.List3, &form2.List4, &form2.List8})
+    EXPECT_EQ(list->ListCount(), 0);
+}
+
+/// Everything that can be chosen in random tables lists what a walk over all rows lists, in its order.
+TEST_F(NewMusicListsTest, ListsAreThoseOfThePlainWalk) {
+  std::mt19937 random(20);
+  const auto pick = [&random](std::initializer_list<const char16_t*> texts) {
+    return Text(texts.begin()[random() % texts.size()]);
+  };
+  for (int round = 0; round < 40; ++round) {
+    table.truncate(0);
+    table.resizeColumns();
+    table.setBrojfajlova(0);
+    table.autori.clear();
+    form1.List4.Clear();
+    const auto rows = random() % 60;
+    for (std::uint32_t i = 0; i < rows; ++i) {
+      const Text artist = pick({u"A - ", u"B - ", u"b - ", u"C  - ", u"", u"D- "});
+      addRow(u"/new/" + pick({u"x", u"y", u"z/x"}) + u"/" + artist + core::plain(std::int64_t{i}) + u".mp3",
+             {pick({u"Rock", u"Pop", u"", u"  ", u"Jazz"}),
+              pick({u"One", u"Two", u"", u" One ", u"-<< Every Songs >>-"}), pick({u"1998", u"2001", u""})});
+    }
+    table.appendPath(u"/base/Genre/Artist/E - tail.mp3");
+    table.resizeColumns();
+    std::ranges::shuffle(table.autori, random);
+    const test::NaiveLists naive(table);
+    music.IzlistajVrste();
+    ASSERT_EQ(rows > 0 ? naive.genres() : std::vector<Text>(), test::texts(form2.List1));
+
+    const auto choose = [&random](ui::ListBox& list) {
+      std::vector<int> chosen;
+      for (int index = 0; index < list.ListCount(); ++index)
+        if (random() % 3 == 0) chosen.push_back(index);
+      list.select(chosen, chosen.empty() ? -1 : chosen.back());
+    };
+    const list::QuietLists quietly(table);
+    choose(form2.List1);
+    ASSERT_EQ(naive.artists(form2.List1), test::texts(form2.List2));
+    choose(form2.List2);
+    ASSERT_EQ(naive.albums(form2.List1, form2.List2), test::texts(form2.List3));
+    choose(form2.List3);
+    ASSERT_EQ(naive.songs(form2.List1, form2.List2, form2.List3), test::data(form2.List4));
+    form2.albumByFolder.setChosen(true);
+    ASSERT_EQ(naive.folders(form2.List1, form2.List2), test::texts(form2.List8));
+    choose(form2.List8);
+    ASSERT_EQ(naive.songsInFolders(form2.List1, form2.List2, form2.List8), test::data(form2.List4));
+    form2.albumByTag.setChosen(true);
+  }
+}
+
+TEST_F(NewMusicListsTest, AClickFillsTheBoxesAndChoosesTheFirstArtist) {
+  song(u"Beta - one", {u"Rock", u"First", u"1998"});
+  song(u"nodash", {u"Rock"});
+  song(u"Alpha - two", {u"Pop", {}, u"2001"});
+  openBoth();
+  EXPECT_EQ(rows(form2.List1), (Names{"-<< Every Autor >>-", "-<< Without Genree >>-", "Rock", "Pop"}));
+  click(form2.List1, {u"Rock"});
+  EXPECT_EQ(form2.Combo1.text(), u"Rock");
+  EXPECT_EQ(rows(form2.List2), (Names{"Beta ", ""}));
+  EXPECT_EQ(chosen(form2.List2), Names{"Beta "});
+  EXPECT_EQ(rows(form2.List3),
+            (Names{"-<< Every Songs >>-", "-<< Without Album And Year >>-", "First  1998"}));
+  click(form2.List3, {u"First  1998"});
+  EXPECT_EQ(form2.Text3.text(), u"First");
+  EXPECT_EQ(form2.Text5.text(), u"1998");
+  click(form2.List2, {u""});
+  click(form2.List3, {u"-<< Without Album And Year >>-"});
+  EXPECT_EQ(rows(form2.List4), Names{"nodash"});
+  EXPECT_EQ(form2.Text3.text(), u"");
+
+  form2.List1.select({0, 3}, 0);
+  EXPECT_EQ(chosen(form2.List1), Names{"Pop"}) << "what stands for all gives way to a genre";
+  EXPECT_EQ(rows(form2.List2), Names{"Alpha "});
+  EXPECT_EQ(rows(form2.List3), (Names{"-<< Every Songs >>-", "-<< Without Album And Year >>-", "2001"}));
+  form2.List3.select({0, 2}, 0);
+  EXPECT_EQ(chosen(form2.List3), Names{"2001"});
+}
+
+TEST_F(NewMusicListsTest, TheSameSongIsMarkedInAllWindows) {
+  show({u"Rock/Alpha/First  1998/Alpha - song.mp3", u"Pop/Zeta/Zeta - other.mp3"});
+  song(u"Zeta - x", {u"Pop"});
+  const Text path = song(u"ALPHA  -  Song ", {u"Pop", u"First", u"1998"});
+  openBoth();
+  click(form2.List1, {u"Pop"});
+  EXPECT_EQ(chosen(form3.List1), Names{"Pop"}) << "the base follows to where the artist lives";
+  EXPECT_EQ(chosen(form3.List2), Names{"Zeta"});
+  click(form2.List2, {u"ALPHA  "});
+  EXPECT_EQ(chosen(form3.List1), Names{"Rock"}) << "whatever the capitals";
+  EXPECT_EQ(chosen(form3.List2), Names{"Alpha"});
+  ASSERT_EQ(rows(form3.List8), Names{"song"});
+  click(form2.List3, {u"First  1998"});
+  form2.List4.select({0}, 0);
+  EXPECT_EQ(form2.Text4.text(), u"  Song ");
+  EXPECT_EQ(form2.Text2.text(), u"ALPHA  ");
+  EXPECT_EQ(form2.Combo1.text(), u"Pop");
+  EXPECT_EQ(form2.statusLabel.text(), path);
+  EXPECT_EQ(chosen(form1.List4), Names{core::toBytes(path)});
+  EXPECT_EQ(chosen(form3.List8), Names{"song"});
+  EXPECT_EQ(table.puniliste, 0);
+
+  song(u"Nobody - y", {u"Jazz"});
+  openBoth();
+  click(form3.List1, {u"Rock"});
+  click(form2.List1, {u"Jazz"});
+  EXPECT_EQ(chosen(form3.List1), Names{"Rock"}) << "an artist whom no genre holds leaves the base as it was";
+  EXPECT_EQ(chosen(form3.List2), Names{"Alpha"});
+}
+
+TEST_F(NewMusicListsTest, FoldersCanStandForGenresAndAlbums) {
+  song(u"Rock/one/A - 1", {u"Pop"});
+  song(u"Rocking/two/B - 2");
+  song(u"Jazz/one/C - 3");
+  song(u"Rock/two/A - 4");
+  openBoth();
+  form2.genreByFolder.click();
+  EXPECT_FALSE(form2.List1.visible());
+  EXPECT_TRUE(form2.Dir1.visible());
+  EXPECT_EQ(form2.Dir1.path(), folder.path(u"new"));
+  EXPECT_EQ(rows(form2.List2).size(), 3U);
+  form2.Dir1.click(folder.path(u"new/Rock"));
+  EXPECT_EQ(rows(form2.List2), (Names{"A ", "B "})) << "the path is looked for as a plain text";
+  EXPECT_EQ(form2.Combo1.text(), u"Rock");
+  form2.albumByFolder.click();
+  EXPECT_EQ(rows(form2.List8), (Names{"-<< Every Songs >>-", "...\\one\\", "...\\two\\"}));
+  EXPECT_EQ(chosen(form2.List8), Names{"-<< Every Songs >>-"});
+  EXPECT_EQ(form2.List4.ListCount(), 2);
+  click(form2.List8, {u"...\\two\\"});
+  EXPECT_EQ(rows(form2.List4), Names{" 4"});
+  EXPECT_EQ(form2.Text3.text(), u"two");
+  form2.Dir1.click(folder.path(u"new"));
+  EXPECT_EQ(rows(form2.List2).size(), 3U);
+  form2.albumByTag.click();
+  EXPECT_TRUE(form2.List3.visible());
+  EXPECT_EQ(chosen(form2.List3), Names{"-<< Every Songs >>-"});
+  form2.genreByTag.click();
+  EXPECT_EQ(chosen(form2.List1), Names{"-<< Every Autor >>-"});
+}
+
+TEST_F(NewMusicListsTest, AScanReadsAllTagsUntilStop) {
+  const auto tagged = [this](TextView name, const Text& genre) {
+    folder.write(u"new/" + Text(name) + u".mp3",
+                 test::Id3v2Maker()
+                         .values({.title = Text(name), .artist = u"x", .genre = genre})
+                         .padding(300)
+                         .bytes() +
+                     test::mpegFrames());
+    const int row = addRow(folder.path(u"new/" + Text(name) + u".mp3"), {});
+    table.track(row).procitan = false;
+    table.track(row).imaid3v2 = false;
+  };
+  for (const char16_t* name : {u"a", u"b", u"c"}) tagged(name, u"Genre of " + Text(name));
+  openBoth();
+  EXPECT_EQ(form2.List1.ListCount(), 2);
+  std::vector<Text> said;
+  desktop.then([&] { said.push_back(windows.dialog1.text.text()); });
+  desktop.then([&] { said.push_back(form2.statusLabel.text()); });
+  desktop.then([&] { said.push_back(form2.statusLabel.text()); });
+  desktop.then([&] {
+    EXPECT_FALSE(form2.enabled());
+    table.Stop = true;
+  });
+  scan.scan();
+  EXPECT_EQ(said, (std::vector<Text>{u"Sorting ...", u"", u"2 files left."}));
+  EXPECT_EQ(rows(form2.List1),
+            (Names{"-<< Every Autor >>-", "-<< Without Genree >>-", "Genre of a", "Genre of b"}));
+  scan.scan();
+  EXPECT_EQ(rows(form2.List1).back(), "Genre of c");
+  EXPECT_EQ(data.readColumn(u"vrstaid3v2.txt").size(), 3U);
+  EXPECT_TRUE(form2.enabled() && form3.enabled() && form1.enabled());
+  EXPECT_FALSE(windows.dialog1.visible());
+}
+
+TEST_F(NewMusicListsTest, TheWindowOpensAsItWasClosed) {
+  song(u"one/A - 1", {u"Rock", u"First", u"1998"});
+  song(u"two/A - 2", {u"Pop", u"First", u"1998"});
+  song(u"two/B - 3", {u"Rock"});
+  openBoth();
+  click(form2.List1, {u"Rock", u"Pop"});
+  click(form2.List2, {u"A "});
+  click(form2.List3, {u"First  1998"});
+  form2.List4.select({1}, 1);
+  form2.List4.setTopIndex(1);
+  state.store();
+  EXPECT_EQ(settings.get(u"stanje2"), u"1:1: 2, 3: 0: 2: 1: 0: 0: 0: 1:");
+  openBoth();
+  state.restore(settings.get(u"stanje2"));
+  EXPECT_EQ(chosen(form2.List1), (Names{"Rock", "Pop"}));
+  EXPECT_EQ(chosen(form2.List2), Names{"A "});
+  EXPECT_EQ(chosen(form2.List3), Names{"First  1998"});
+  EXPECT_EQ(chosen(form2.List4), Names{" 2"});
+  EXPECT_EQ(form2.List4.TopIndex(), 1);
+
+  form2.genreByFolder.click();
+  form2.albumByFolder.click();
+  form2.Dir1.click(folder.path(u"new/two"));
+  click(form2.List2, {u"B "});
+  click(form2.List8, {u"...\\two\\"});
+  state.store();
+  EXPECT_EQ(settings.get(u"stanje2"), u"0:-2: 0: 1: 1:: 0: 0: 0: 0:");
+  EXPECT_EQ(settings.get(u"form2dis"), folder.path(u"new/two"));
+  form2.albumByTag.click();
+  form2.genreByTag.click();
+  openBoth();
+  state.restore(settings.get(u"stanje2"));
+  EXPECT_TRUE(form2.genreByFolder.chosen());
+  EXPECT_EQ(form2.Dir1.path(), folder.path(u"new/two"));
+  EXPECT_EQ(rows(form2.List2), (Names{"A ", "B "}));
+  EXPECT_EQ(chosen(form2.List2), Names{"B "});
+  EXPECT_EQ(chosen(form2.List8), Names{"...\\two\\"});
+  EXPECT_EQ(rows(form2.List4), Names{" 3"});
+  state.restore(u" 9, 9:junk:::99999: 7:");
+  EXPECT_EQ(table.puniliste, 0);
+}
+
+}  // namespace
+}  // namespace velmora
