@@ -10,11 +10,9 @@
 #include "core/paths.h"
 #include "list/quiet_lists.h"
 #include "names/grammar.h"
-#include "player/hand_over.h"
 #include "review/name_restorer.h"
 #include "review/replay.h"
 #include "review/tag_restorer.h"
-#include "system/desktop_trash.h"
 #include "tags/busy_file.h"
 #include "tests/base/base_world.h"
 
@@ -29,11 +27,9 @@ struct NewTags {
 
 /// The New Music Window beside a Music Base, and the rooms behind it, wired as the program wires them.
 struct NewMusicWorld : BaseWorld {
-  system::DesktopTrash trash{files, folder.path(u"trash")};
   core::DataFolder data{files, settings, folder.path()};
   ui::Form1& form1 = windows.form1;
   ui::Form2& form2 = windows.form2;
-  player::NoFileHolder player;
   tags::TagCache tagCache{table, files};
   tags::FilePanel panel{table, files, tagCache, form1};
   tags::BusyFile busyFile{files, desktop, form1.statusLabel};
