@@ -21,6 +21,8 @@ class QuietDesktop final : public platform::Desktop {
   void waitForEvents() override;
   void sleep(int milliseconds) override;
   std::int64_t clockMilliseconds() override;
+  int currentYear() override { return 2026; }
+  platform::ScreenRoom screenRoom() override { return {}; }
   double random() override { return 0.5; }
   bool anotherInstanceRunning() override { return false; }
   int systemVersion() override { return 1000; }

@@ -6,6 +6,14 @@
 
 namespace velmora::platform {
 
+/// A part of the screen in twips (1/1440 inch).
+struct ScreenRoom {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
 /// The desktop session that the program runs in.
 class Desktop {
  public:
@@ -18,6 +26,10 @@ class Desktop {
   virtual void sleep(int milliseconds) = 0;
   /// Time that never goes back, in milliseconds.
   virtual std::int64_t clockMilliseconds() = 0;
+  /// The year of today in the user's time zone.
+  virtual int currentYear() = 0;
+  /// The screen of the main window, less what the desktop keeps for itself; no height when it is not known.
+  virtual ScreenRoom screenRoom() = 0;
   /// A number in [0, 1) that differs from start to start.
   virtual double random() = 0;
   /// Whether another copy of this program uses the same program folder.

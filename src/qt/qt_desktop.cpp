@@ -1,11 +1,16 @@
 #include "qt/qt_desktop.h"
 
-#include <QCoreApplication>
+#include <cmath>
+
+#include <QApplication>
+#include <QDate>
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QRandomGenerator>
+#include <QScreen>
 #include <QTimer>
 #include <QUrl>
+#include <QWidget>
 
 #include "core/text.h"
 #include "qt/text.h"
@@ -16,6 +21,7 @@ namespace {
 
 constexpr int frameMilliseconds = 16;
 constexpr int systemThatNeedsNoPause = 1000;
+constexpr double twipsPerInch = 1440;
 
 // From the bytes of the path, so that a name that is no valid UTF-8 is found too.
 QUrl fileUrl(const Text& path) {
@@ -54,6 +60,21 @@ void QtDesktop::sleep(int milliseconds) {
 
 std::int64_t QtDesktop::clockMilliseconds() {
   return clock_.elapsed();
+}
+
+int QtDesktop::currentYear() {
+  return QDate::currentDate().year();
+}
+
+platform::ScreenRoom QtDesktop::screenRoom() {
+  const QWidget* window = QApplication::activeWindow();
+  const QScreen* screen = window ? window->screen() : QGuiApplication::primaryScreen();
+  if (!screen) return {};
+  const auto twips = [screen](int pixels) {
+    return static_cast<int>(std::lround(pixels * twipsPerInch / screen->logicalDotsPerInch()));
+  };
+  const QRect room = screen->availableGeometry();
+  return {twips(room.x()), twips(room.y()), twips(room.width()), twips(room.height())};
 }
 
 double QtDesktop::random() {

@@ -17,6 +17,8 @@ class QtDesktop final : public platform::Desktop {
   /// The windows are painted meanwhile; what the user does waits until the next pump.
   void sleep(int milliseconds) override;
   std::int64_t clockMilliseconds() override;
+  int currentYear() override;
+  platform::ScreenRoom screenRoom() override;
   double random() override;
   bool anotherInstanceRunning() override;
   int systemVersion() override;

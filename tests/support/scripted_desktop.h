@@ -21,6 +21,8 @@ class ScriptedDesktop final : public platform::Desktop {
   double nextRandom = 0;
   bool anotherInstance = false;
   int version = 1000;
+  int year = 2026;
+  platform::ScreenRoom room;
   int pumps = 0;
   std::vector<int> sleeps;  ///< milliseconds
   std::vector<Text> opened;
@@ -30,6 +32,8 @@ class ScriptedDesktop final : public platform::Desktop {
   void waitForEvents() override;
   void sleep(int milliseconds) override;
   std::int64_t clockMilliseconds() override { return now; }
+  int currentYear() override { return year; }
+  platform::ScreenRoom screenRoom() override { return room; }
   double random() override { return nextRandom; }
   bool anotherInstanceRunning() override { return anotherInstance; }
   int systemVersion() override { return version; }
