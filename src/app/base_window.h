@@ -1,18 +1,31 @@
 #pragma once
 
-#include "app/events.h"
+#include "app/shared_screen.h"
+#include "base/base_lists.h"
+#include "base/year_filter.h"
 #include "core/settings.h"
 #include "core/track_table.h"
+#include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "ui/form3.h"
 
 namespace velmora::app {
 
-/// How the Music Base Window comes and goes: its menu marks, its place and its Music Base folder.
+/// How the Music Base Window comes and goes: its menu marks, its place, its Music Base folder and what its
+/// lists showed.
 class BaseWindow {
  public:
-  BaseWindow(core::TrackTable& table, core::Settings& settings, platform::Dialogs& dialogs, ui::Form3& form3,
-             Events& events);
+  struct Parts {
+    core::TrackTable& table;
+    core::Settings& settings;
+    platform::Dialogs& dialogs;
+    platform::Desktop& desktop;
+    ui::Form3& form3;
+    base::BaseLists& lists;
+    base::YearFilter& years;
+    SharedScreen& screen;
+  };
+  explicit BaseWindow(const Parts& parts) : parts_(parts) {}
 
   /// What must be done before the window is shown for the first time; later calls do nothing.
   void loadOnce();
@@ -21,10 +34,17 @@ class BaseWindow {
   void unload();
   /// Stores list states and `sourceprozor`, for a change to the Processing Window.
   void storeLists();
+  /// Reads the mark of "Play With One Click", which the New Music Window switches off while it is open.
+  void loadOneClick();
+  /// Takes that mark off without storing it.
+  void switchOffOneClick();
 
   /// "Select main folder for Your Music Base".
   void selectMainFolder();
-  void autoListFocusClicked();
+  /// "Show menu and buttons": shows them, or hides them.
+  void toggleMenuAndButtons();
+  /// Stores the mark of a menu entry that was clicked.
+  void storeMark(TextView key, bool checked);
 
  private:
   void loadMarks();
@@ -32,12 +52,9 @@ class BaseWindow {
   void placeWindow();
   void storePlace();
 
-  core::TrackTable& table_;
-  core::Settings& settings_;
-  platform::Dialogs& dialogs_;
-  ui::Form3& form3_;
-  Events& events_;
+  Parts parts_;
   bool loaded_ = false;
+  bool keepsMarks_ = false;
 };
 
 }  // namespace velmora::app

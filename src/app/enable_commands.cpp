@@ -39,6 +39,7 @@ void enableCommands(House& house) {
   tools.renameFiles.setVisible(songsView);
   tools.renameFiles.setEnabled(songs);
   tools.deleteFiles.setEnabled(form1.List4.SelCount() > 0);
+  enableBaseCommands(house);
 }
 
 }  // namespace velmora::app

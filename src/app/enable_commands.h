@@ -7,5 +7,7 @@ struct House;
 /// Lets those commands be used that have something to act on. Called after every command and every change of
 /// the current row.
 void enableCommands(House& house);
+/// The part of it that concerns the Music Base Window and the New Music Window, for their list clicks.
+void enableBaseCommands(House& house);
 
 }  // namespace velmora::app

@@ -16,14 +16,6 @@ struct Events {
   /// Whether the newest stretch of the journal is one that Undo of the Processing Window takes back.
   std::function<void(bool canUndo)> onUndoState;
 
-  /// The lists of the Music Base Window are to be filled from the folder tree.
-  std::function<void()> onListBase;
-  /// The state of its lists is to be brought back, and to be stored.
-  std::function<void()> onRestoreBaseLists;
-  std::function<void()> onStoreBaseLists;
-  /// "Show New Music Window".
-  std::function<void()> onShowNewMusic;
-
   /// The program ends: timers stop, and files that are open are let go.
   std::function<void()> onEnding;
 };

@@ -5,6 +5,7 @@ namespace velmora::app {
 namespace {
 
 constexpr int processing = 1;  // values of aktivniprozor
+constexpr int newMusic = 2;
 constexpr int base = 3;
 
 }  // namespace
@@ -14,7 +15,12 @@ void FrontWindow::showBase() {
   parts_.base.loadOnce();
   parts_.windows.form3.show();
   parts_.windows.form3.bringToFront();
+  parts_.windows.form3.showNewMusic.setEnabled(parts_.table.brojfajlova() > 0);
   parts_.table.aktivniprozor = base;
+}
+
+void FrontWindow::newMusicActivated() {
+  if (parts_.windows.form2.visible()) parts_.table.aktivniprozor = newMusic;
 }
 
 void FrontWindow::baseActivated() {
@@ -24,6 +30,7 @@ void FrontWindow::baseActivated() {
 
 void FrontWindow::showProcessing() {
   parts_.base.storeLists();
+  parts_.newMusic.stepAside();
   parts_.windows.form3.hide();
   parts_.table.aktivniprozor = processing;
   parts_.windows.form1.setEnabled(true);
@@ -36,7 +43,7 @@ void FrontWindow::assort() {
   showBase();
   if (!hasRows) return;
   parts_.table.sourceprozor = 0;
-  raise(parts_.events.onShowNewMusic);
+  parts_.newMusic.toggle();
   if (parts_.settings.get(u"DirZaBazu").empty()) offerBaseFolder();
   parts_.table.aktivniprozor = base;
 }

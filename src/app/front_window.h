@@ -2,6 +2,7 @@
 
 #include "app/base_window.h"
 #include "app/events.h"
+#include "app/new_music_window.h"
 #include "core/settings.h"
 #include "core/track_table.h"
 #include "list/closing_step.h"
@@ -20,6 +21,7 @@ class FrontWindow {
     ui::Windows& windows;
     list::ClosingStep& closing;
     BaseWindow& base;
+    NewMusicWindow& newMusic;
     Events& events;
   };
   explicit FrontWindow(const Parts& parts) : parts_(parts) {}
@@ -35,6 +37,8 @@ class FrontWindow {
   void closeProcessing();
   /// The Music Base Window came to the front.
   void baseActivated();
+  /// The New Music Window came to the front.
+  void newMusicActivated();
 
  private:
   void offerBaseFolder();

@@ -2,13 +2,16 @@
 
 #include <functional>
 
+#include "app/base_room.h"
 #include "app/base_window.h"
 #include "app/events.h"
 #include "app/front_window.h"
 #include "app/modal_wait.h"
+#include "app/new_music_window.h"
 #include "app/processing_window.h"
 #include "app/repair_room.h"
 #include "app/services.h"
+#include "app/shared_screen.h"
 #include "app/table_loader.h"
 #include "app/work.h"
 #include "core/data_folder.h"
@@ -77,11 +80,14 @@ struct House {
   list::OtherFiles otherFiles;
   list::ArtistCompletion completion;
   RepairRoom repair;
+  BaseRoom baseRoom;
 
   // Starting, ending and changing windows.
   TableLoader loader;
   ProcessingWindow processing;
+  SharedScreen screen;
   BaseWindow base;
+  NewMusicWindow newMusic;
   FrontWindow front;
 };
 

@@ -8,7 +8,6 @@
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
-#include "tags/genre.h"
 #include "ui/list_state.h"
 
 namespace velmora::app {
@@ -93,14 +92,6 @@ void ProcessingWindow::restoreLists() {
     scrollAgain(form1_.List4, state[TopFile]);
   });
   table_.puniliste = 0;
-}
-
-void ProcessingWindow::fillGenres() {
-  constexpr int noGenre = 255;
-  std::vector<ui::ComboRow> rows = {{Text(), noGenre}};
-  for (int code = 0; code <= noGenre; ++code)
-    if (const Text& name = tags::GenreName(code); !name.empty()) rows.push_back({name, code});
-  form1_.tags.genre.setRows(std::move(rows));
 }
 
 void ProcessingWindow::store() {

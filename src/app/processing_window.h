@@ -17,8 +17,6 @@ class ProcessingWindow {
   void load();
   /// Selections and top rows of the lists, as they were. Clicks are kept quiet.
   void restoreLists();
-  /// An empty first row, then every genre that has a name, each with its code as item data.
-  void fillGenres();
   /// What is stored when the window closes for good.
   void store();
   /// The window lost the front: its place is stored when it has changed.

@@ -52,6 +52,7 @@ void shutDown(House& house) {
   // Before the load there is nothing to store, and an empty table would wipe the files of the last run.
   if (house.loaded) {
     house.base.unload();
+    house.newMusic.unload();
     house.windows.form3.hide();
     house.windows.form1.hide();
     unloadForm1(house);

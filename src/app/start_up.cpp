@@ -6,6 +6,7 @@
 #include "app/shut_down.h"
 #include "core/number_text.h"
 #include "core/paths.h"
+#include "tags/genre_rows.h"
 
 namespace velmora::app {
 
@@ -84,6 +85,10 @@ void startInBaseWindow(House& house) {
   house.processing.restoreLists();
   house.front.showBase();
   pump(house);
+  if (house.table.sourceprozor == 1) {
+    guarded([&] { house.newMusic.open(); });
+    pump(house);
+  }
   guarded([&] { showTip(house); });
 }
 
@@ -92,7 +97,7 @@ void finishForm1(House& house) {
     if (house.events.onUndoState) house.events.onUndoState(house.journal.lastUndoMarker() == "st1");
   });
   house.table.puniliste = 0;
-  guarded([&] { house.processing.fillGenres(); });
+  house.windows.form1.tags.genre.setRows(tags::genreRows());
   enableCommands(house);
   // What is selected again is shown again.
   if (house.table.vrsta == 0) guarded([&] { raise(house.windows.form1.List4.onClick); });

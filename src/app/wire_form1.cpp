@@ -66,6 +66,16 @@ void wireForm1(House& house) {
   house.listMaker.onCleared = [&house] {
     house.player.close();
     house.repair.undoCommands.showState();
+    house.newMusic.forget();
+  };
+  form1.folderTree.onDropFolders = [&house, &form1](const std::vector<Text>& folders) {
+    command(house, form1, [&] {
+      for (const Text& folder : folders) {
+        form1.folderTree.setPath(folder);
+        house.listMaker.add();
+        if (house.table.Stop) break;
+      }
+    })();
   };
 }
 

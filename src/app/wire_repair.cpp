@@ -55,7 +55,10 @@ void wireUndo(House& house) {
   tools.undoName.onClick = command(house, form1, [&room] {
     if (!room.undoName.undoEdit()) room.undoName.undoName();
   });
-  house.journal.onMarker = [&room](std::string_view kind) { room.undoCommands.showState(kind); };
+  house.journal.onMarker = [&house, &room](std::string_view kind) {
+    room.undoCommands.showState(kind);
+    house.windows.form2.undoLastOperation.setEnabled(kind == "st2");
+  };
   house.events.onUndoState = [&room](bool) { room.undoCommands.showState(); };
 }
 

@@ -15,6 +15,7 @@ struct House;
 void wireForm1(House& house);
 /// The player, the batches, Delete and the undo commands of the Processing Window.
 void wireRepair(House& house);
+void wireForm2(House& house);
 void wireForm3(House& house);
 void wireForm8(House& house);
 /// Form5, Form6, Form7 and Dialog2.

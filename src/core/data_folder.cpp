@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 #include <utility>
 
 #include "core/number_text.h"
@@ -197,9 +198,9 @@ void DataFolder::SaveID3nizove(const TrackTable& table) {
   }
   // Which rows are read is told last, when all that was read stands.
   beginChange();
-  for (auto file = files.rbegin(); file != files.rend(); ++file) {
-    records::writeNothing(file->content, file->nothing);
-    store(fileOf(file->column), file->content);
+  for (File& file : std::views::reverse(files)) {
+    records::writeNothing(file.content, file.nothing);
+    store(fileOf(file.column), file.content);
   }
 }
 

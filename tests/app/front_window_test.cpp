@@ -44,22 +44,51 @@ TEST_F(FrontWindowTest, ProcessingWindowAndBackAgain) {
 
 TEST_F(FrontWindowTest, AssortNeedsRowsAndOffersToChooseTheBase) {
   startWithSongs();
-  int newMusic = 0;
-  program.app().events().onShowNewMusic = [&] { ++newMusic; };
-  program.settings.set(u"sourceprozor", u" 1");
   program.dialogs.expect(folderQuestion, u"New Music Files Window", Answer::Yes);
   program.dialogs.expectFolder(u"Select main folder for Your Music Base", program.musicFolder());
   program.form1().assort.click();
   EXPECT_EQ(program.dialogs.lastIcon, platform::Icon::Question);
-  EXPECT_EQ(newMusic, 1);
-  EXPECT_EQ(program.table().sourceprozor, 0);
+  EXPECT_TRUE(program.windows().form2.visible());
+  EXPECT_EQ(program.table().sourceprozor, 1);
   EXPECT_EQ(program.settings.get(u"DirZaBazu"), program.musicFolder());
   EXPECT_EQ(program.table().dirzabazu, program.musicFolder());
   EXPECT_EQ(program.form3().rootLabel.text(), program.musicFolder());
 
   program.form3().showProcessingWindow.click();
+  EXPECT_FALSE(program.windows().form2.visible());
   program.form1().assort.click();
   EXPECT_TRUE(program.form3().visible()) << "with a base there is nothing to ask";
+  EXPECT_TRUE(program.windows().form2.visible());
+}
+
+TEST_F(FrontWindowTest, NewMusicOpensAndClosesBesideTheBaseAndComesUpAgainAtTheNextStart) {
+  program.settings.set(u"DirZaBazu", program.folder.mkdir(u"base"));
+  startWithSongs();
+  program.form1().closeRequest();
+  EXPECT_TRUE(program.windows().form2.visible())
+      << "closing the Processing Window leads on with the working list";
+  EXPECT_EQ(program.form3().showNewMusic.caption(), u"     Hide New Music Window    ");
+  program.restart();
+  EXPECT_TRUE(program.windows().form2.visible());
+
+  program.settings.set(u"plfr", u"True");
+  program.windows().form2.onActivate();
+  EXPECT_EQ(program.table().aktivniprozor, 2);
+  program.windows().form2.closeRequest();
+  EXPECT_FALSE(program.windows().form2.visible());
+  EXPECT_EQ(program.table().sourceprozor, 0);
+  EXPECT_EQ(program.table().aktivniprozor, 3);
+  EXPECT_TRUE(program.form3().plfr.checked());
+  EXPECT_EQ(program.form3().showNewMusic.caption(), u"     Show New Music Window    ");
+  program.restart();
+  EXPECT_FALSE(program.windows().form2.visible());
+
+  program.form3().showNewMusic.click();
+  EXPECT_TRUE(program.windows().form2.visible());
+  EXPECT_FALSE(program.form3().plfr.checked());
+  EXPECT_EQ(program.settings.get(u"plfr"), u"True") << "switched off for as long as it is open";
+  program.form3().showNewMusic.click();
+  EXPECT_FALSE(program.windows().form2.visible());
 }
 
 TEST_F(FrontWindowTest, NoBaseIsAskedForWithoutRows) {

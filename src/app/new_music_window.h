@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/base_window.h"
+#include "app/shared_screen.h"
+#include "base/move_summary.h"
+#include "base/new_music_lists.h"
+#include "base/new_music_state.h"
+#include "base/new_music_undo.h"
+#include "core/settings.h"
+#include "core/track_table.h"
+#include "ui/windows.h"
+
+namespace velmora::app {
+
+/// How the New Music Window comes and goes beside the Music Base Window.
+class NewMusicWindow {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    core::Settings& settings;
+    ui::Windows& windows;
+    base::NewMusicLists& lists;
+    base::NewMusicState& state;
+    base::MoveSummary& summary;
+    base::NewMusicUndo& undo;
+    BaseWindow& base;
+    SharedScreen& screen;
+  };
+  explicit NewMusicWindow(const Parts& parts) : parts_(parts) {}
+
+  /// "Show New Music Window", and "Hide" while it is open.
+  void toggle();
+  void open();
+  /// The user is done with it: it is not opened again at the next start.
+  void close();
+  /// Hides it while the Processing Window is in front, and keeps what it showed.
+  void stepAside();
+  /// The program ends: what it showed is stored, and it comes up again at the next start.
+  void unload();
+  /// New List: there is nothing to show any more.
+  void forget();
+
+ private:
+  void load();
+  void leave();
+  bool isOpen() const { return parts_.windows.form2.visible(); }
+
+  Parts parts_;
+};
+
+}  // namespace velmora::app
