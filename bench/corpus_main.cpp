@@ -27,7 +27,8 @@ int main(int count, char** arguments) {
       else
         folders.emplace_back(argument);
     }
-    if (folders.empty() || folders.size() > 2 || (base > 0) != (folders.size() == 2)) {
+    const bool unknownOption = !folders.empty() && folders.front().starts_with('-');
+    if (folders.empty() || unknownOption || folders.size() > 2 || (base > 0) != (folders.size() == 2)) {
       std::fputs("usage: velmora_corpus [--files N] [--base N] [--seed S] <folder> [<base folder>]\n",
                  stderr);
       return 2;
