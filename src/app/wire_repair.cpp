@@ -47,8 +47,8 @@ void wireUndo(House& house) {
   RepairRoom& room = house.repair;
   tools.undoLastOperation.onClick = command(house, form1, [&house, &room, &form1] {
     room.undoCommands.undoLastOperation();
-    // Files that came back are selected again, and the panel shows what is selected.
-    if (!house.panel.shows(house.table.currentRow)) raise(form1.List4.onClick);
+    // What was selected before the command is selected again, and the panel shows what is selected.
+    if (!form1.List4.Selected(house.table.currentRow - 1)) raise(form1.List4.onClick);
   });
   tools.undo.onClick = [&tools] { tools.undoLastOperation.click(); };
   tools.restoreAllChanges.onClick = command(house, form1, [&room] { room.undoCommands.restoreAllChanges(); });
