@@ -33,7 +33,7 @@ QColor mixed(const QColor& one, const QColor& other, int perCent) {
 }  // namespace
 
 double contrast(const QColor& one, const QColor& other) {
-  const auto [darker, brighter] = std::minmax(luminance(one), luminance(other));
+  const auto [darker, brighter] = std::minmax({luminance(one), luminance(other)});
   return (brighter + 0.05) / (darker + 0.05);
 }
 

@@ -1,7 +1,6 @@
 #include "qt/theme.h"
 
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -10,20 +9,10 @@
 #include <QRadioButton>
 #include <QStyle>
 
+#include "qt/colours.h"
+
 namespace velmora::qt {
 namespace {
-
-double luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-  const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
-  return (light + 0.05) / (dark + 0.05);
-}
 
 class ThemeTest : public testing::TestWithParam<const char*> {
  protected:
