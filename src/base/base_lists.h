@@ -115,7 +115,7 @@ class BaseLists {
 
   Parts parts_;
   Text root_;
-  bool armed_ = true;  // a click on a title may play it
+  bool armed_ = true;                                 // a click on a title may play it
   std::unordered_map<int, Contents> artistContents_;  // by index, for the length of one click on List2
 };
 

@@ -19,8 +19,7 @@ bool matches(TextView record, TextView key) {
 }  // namespace
 
 void LastPosition::SavePos(TextView key, TextView value) {
-  if (key.empty()) return;
-  read();
+  if (key.empty() || !read()) return;
   Text record(key);
   record.append(1, keyEnd).append(value);
   bool found = false;
@@ -43,16 +42,18 @@ Text LastPosition::LoadPos(TextView key) const {
   return last == records_.rend() ? Text() : last->substr(key.size() + 1);
 }
 
-void LastPosition::read() const {
+/// Returns false when there are records that cannot be read, which must not be written over.
+bool LastPosition::read() const {
   try {
     const std::uint64_t bytes = files_.size(path_);
-    if (bytes == bytes_) return;
+    if (bytes == bytes_) return true;
     records_ = core::records::readTexts(files_.readAll(path_));
     bytes_ = bytes;
+    return true;
   } catch (const platform::FileError&) {
-    // Nothing was remembered yet.
     records_.clear();
     bytes_.reset();
+    return !files_.fileExists(path_);
   }
 }
 

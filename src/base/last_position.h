@@ -23,7 +23,7 @@ class LastPosition {
   Text LoadPos(TextView key) const;
 
  private:
-  void read() const;
+  bool read() const;
   void write();
 
   platform::Files& files_;

@@ -9,7 +9,6 @@ namespace velmora::base {
 
 namespace {
 
-constexpr std::size_t startLength = 3;
 constexpr int extensionLength = 4;  // dot included
 
 }  // namespace
@@ -17,8 +16,14 @@ constexpr int extensionLength = 4;  // dot included
 TitleText::TitleText(bool withArtist, std::vector<Text> artists)
     : withArtist_(withArtist), artists_(std::move(artists)) {
   if (withArtist_) return;
-  for (std::size_t i = artists_.size(); i-- > 0;)
-    if (!artists_[i].empty()) byStart_[TextView(artists_[i]).substr(0, startLength)].push_back(i);
+  for (std::size_t row = 0; row < artists_.size(); ++row) {
+    const TextView artist = artists_[row];
+    if (artist.empty() || !lastRow_.insert_or_assign(artist, row).second) continue;
+    const TextView start = artist.substr(0, longestStart);
+    startsOfLength_[start.size()] = true;
+    std::vector<std::size_t>& lengths = lengthsByStart_[start];
+    if (std::ranges::find(lengths, artist.size()) == lengths.end()) lengths.push_back(artist.size());
+  }
 }
 
 Text TitleText::of(TextView fileName) const {
@@ -30,23 +35,23 @@ Text TitleText::of(TextView fileName) const {
 
 /// Position of the dash from 1; 0 where the name has none behind its artist, 1 where it has no artist.
 int TitleText::dashOf(TextView fileName) const {
-  const auto none = artists_.size();
-  std::size_t last = none;
+  const TextView* last = nullptr;
+  std::size_t lastRow = 0;
   for (std::size_t at = 0; at < fileName.size(); ++at) {
     const TextView rest = fileName.substr(at);
-    for (std::size_t length = 1; length <= std::min(startLength, rest.size()); ++length) {
-      const auto found = byStart_.find(rest.substr(0, length));
-      if (found == byStart_.end()) continue;
-      for (const std::size_t artist : found->second) {
-        if (last != none && artist <= last) break;
-        if (rest.starts_with(artists_[artist])) {
-          last = artist;
-          break;
-        }
+    for (std::size_t start = 1; start <= std::min(longestStart, rest.size()); ++start) {
+      if (!startsOfLength_[start]) continue;
+      const auto lengths = lengthsByStart_.find(rest.substr(0, start));
+      if (lengths == lengthsByStart_.end()) continue;
+      for (const std::size_t length : lengths->second) {
+        const auto artist = length > rest.size() ? lastRow_.end() : lastRow_.find(rest.substr(0, length));
+        if (artist == lastRow_.end() || (last && artist->second < lastRow)) continue;
+        last = &artist->first;
+        lastRow = artist->second;
       }
     }
   }
-  return last == none ? 1 : core::position(fileName, u"-", core::length(artists_[last]));
+  return last ? core::position(fileName, u"-", core::length(*last)) : 1;
 }
 
 }  // namespace velmora::base

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <unordered_map>
 #include <vector>
@@ -26,9 +27,12 @@ class TitleText {
 
   bool withArtist_;
   std::vector<Text> artists_;
-  // Artists by the first characters of their names, the last row first, so that a name is looked through once
-  // however many artists are selected.
-  std::unordered_map<TextView, std::vector<std::size_t>> byStart_;
+  // A name is looked through once, however many artists are selected: the first characters at a place tell
+  // how long an artist that stands there can be, and the whole of him tells his last row.
+  static constexpr std::size_t longestStart = 3;
+  std::array<bool, longestStart + 1> startsOfLength_ = {};
+  std::unordered_map<TextView, std::vector<std::size_t>> lengthsByStart_;
+  std::unordered_map<TextView, std::size_t> lastRow_;
 };
 
 }  // namespace velmora::base

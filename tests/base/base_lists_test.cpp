@@ -119,6 +119,26 @@ TEST(TitleText, LosesTheArtistPart) {
   EXPECT_EQ(base::TitleText(false, {u"Jay", u"Jay-Z"}).of(u"Jay-Z - One.mp3"), u"One");
 }
 
+TEST(TitleText, RandomNamesAreCutAsThePlainRuleSays) {
+  std::mt19937 random(11);
+  const auto text = [&random](std::size_t most) {
+    Text made;
+    for (std::size_t left = 1 + random() % most; left > 0; --left) made += u"ab -"[random() % 4];
+    return made;
+  };
+  for (int round = 0; round < 2000; ++round) {
+    std::vector<Text> artists;
+    for (std::size_t left = random() % 5; left > 0; --left) artists.push_back(text(5));
+    const Text name = text(12) + u".mp3";
+    int dash = 1;
+    for (const Text& artist : artists)
+      if (name.find(artist) != Text::npos) dash = core::position(name, u"-", core::length(artist));
+    const TextView cut =
+        core::left(TextView(name).substr(static_cast<std::size_t>(dash)), core::length(name) - dash - 4);
+    EXPECT_EQ(base::TitleText(false, artists).of(name), core::trimLeft(cut)) << core::toBytes(name);
+  }
+}
+
 TEST_F(BaseListsTest, TwoGenresWithAnArtistOfOneName) {
   show({u"A0/Same/a.mp3", u"B1/Same/b.mp3", u"C2/Same/c.mp3", u"C2/Other/o.mp3"});
   click(form3.List1, {u"B1", u"C2"});

@@ -38,6 +38,17 @@ TEST_F(LastPositionTest, WhatAnotherProgramWroteCountsAndDamageIsPassedOver) {
   EXPECT_EQ(positions.LoadPos(u"a"), u"");
 }
 
+TEST_F(LastPositionTest, RecordsThatCannotBeReadAreNotWrittenOver) {
+  positions.SavePos(u"a", u"1");
+  base::LastPosition other(files, folder.path(u"LastPosition.dat"));
+  files.failAt(2);
+  other.SavePos(u"b", u"2");
+  EXPECT_TRUE(files.hasFailed());
+  EXPECT_EQ(folder.read(u"LastPosition.dat"), "\"a\\1\"\r\n");
+  other.SavePos(u"b", u"2");
+  EXPECT_EQ(positions.LoadPos(u"b"), u"2");
+}
+
 struct FoldersTest : test::BaseWorld {};
 
 TEST_F(FoldersTest, PostojiDirTellsTheJournalForTheNewMusicWindowAlone) {
