@@ -145,6 +145,7 @@ void DialogWindow::setVisible(bool visible) {
       windowHandle()->setTransientParent(widget->windowHandle());
       const QRect owner = widget->geometry();
       move(owner.center() - QPoint(width() / 2, height() * 3 / 5));
+      if (widget->isActiveWindow()) break;
     }
   }
   QDialog::setVisible(visible);

@@ -36,7 +36,10 @@ class Columns {
     for (std::size_t i = 1; i < lists_.size(); ++i) QWidget::setTabOrder(lists_[i - 1], lists_[i]);
   }
 
-  QWidget* widget() { return panes_; }
+  QWidget* widget() {
+    lists_.front()->setFocus();  // where the keyboard starts
+    return panes_;
+  }
 
  private:
   ColumnPane* addPane(const char* heading) {

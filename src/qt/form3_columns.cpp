@@ -158,7 +158,7 @@ QWidget* makeBaseColumns(Refresher& refresher, ui::Form3& form3, QAction* hideBu
     panes->setStretchFactor(static_cast<int>(i), 1);
   }
   for (std::size_t i = 1; i < lists.size(); ++i) QWidget::setTabOrder(lists[i - 1], lists[i]);
-  panes->setFocusProxy(lists.front());
+  panes->setFocusProxy(lists.front());  // where the keyboard starts
   bindSplitters(refresher, form3.splitters, panes);
   return panes;
 }

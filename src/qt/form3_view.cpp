@@ -49,6 +49,7 @@ Form3View::Form3View(const ViewContext& context, ui::Form3& form3, ui::Form1& fo
   refresher.watch(form3.rootLabel, pages, [&form3, pages, welcome, columns] {
     QWidget* page = form3.rootLabel.text().empty() ? welcome : columns;
     if (pages->currentWidget() != page) pages->setCurrentWidget(page);
+    page->setFocus();
   });
 
   QWidget* topBar = makeTopBar(refresher, form3);

@@ -9,7 +9,7 @@ namespace velmora::qt {
 
 namespace {
 
-constexpr int picturesPerLook = 2;
+constexpr int picturesPerLook = 3;
 
 struct Look {
   QString name;
@@ -63,6 +63,11 @@ void addLook(Stage& stage, ui::Windows& windows, const QString& look) {
   stage.then([] { Stage::choose("Fix Options"); });
   stage.picture(look + "-dialog", [] { return Stage::sees("FIX OPTIONS"); });
   stage.then([] { Stage::press("Cancel"); });
+  stage.when(idle, [] { Stage::press("Assort Files Per Folders"); });
+  stage.when([&windows] { return windows.form2.visible() && windows.form3.enabled(); },
+             [] { Stage::clickRow("New genres", 0); });
+  stage.then([] { Stage::clickRow("Base genres", 0); });
+  stage.picture(look + "-base", [&windows] { return windows.form3.enabled(); });
 }
 
 }  // namespace velmora::qt

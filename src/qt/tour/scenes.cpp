@@ -121,9 +121,6 @@ void addBase(Stage& stage, ui::Windows& windows, const QString& music) {
     Stage::answer("Choose");
   });
   stage.picture("music-base-chosen", idle(windows));
-  stage.then([] { Stage::choose("Show Processing Window"); });
-  stage.when(idle(windows), [] { Stage::clickRow("Files", 4); });
-  stage.then([] { Stage::clickRow("Files", 8, Qt::ShiftModifier); });
 }
 
 }  // namespace
@@ -149,10 +146,15 @@ void addFirstVisit(Stage& stage, ui::Windows& windows, const QString& music, con
   addOptions(stage, windows);
   addRepair(stage, windows);
   addBase(stage, windows, music);
+  addRoadIntoBase(stage, windows);
 }
 
 void addReturn(Stage& stage, ui::Windows& windows) {
-  stage.picture("next-start", [&windows] { return windows.form1.visible() && windows.form1.enabled(); });
+  stage.picture("next-start", [&windows] { return windows.form3.visible() && windows.form3.enabled(); });
+  stage.then([] { Stage::choose("Show Processing Window"); });
+  stage.when([&windows] { return windows.form1.visible() && windows.form1.enabled(); },
+             [] { Stage::clickRow("Files", 4); });
+  stage.then([] { Stage::clickRow("Files", 8, Qt::ShiftModifier); });
 }
 
 }  // namespace velmora::qt

@@ -26,6 +26,9 @@ class Crowd {
 void addFirstVisit(Stage& stage, ui::Windows& windows, const QString& music, const QString& crowd);
 /// Changes names and tags of several songs, takes all of it back, and plays one.
 void addRepair(Stage& stage, ui::Windows& windows);
+/// With the songs that were listed and repaired into the Music Base: a genre is made, an artist and a genre
+/// are moved, the base is looked over by year, an album gets its year, and the last move is taken back.
+void addRoadIntoBase(Stage& stage, ui::Windows& windows);
 /// The next start: everything is as it was left.
 void addReturn(Stage& stage, ui::Windows& windows);
 

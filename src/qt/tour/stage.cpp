@@ -12,10 +12,12 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPixmap>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace velmora::qt {
 
@@ -71,6 +73,17 @@ void paintShadow(QPainter& painter, const QRect& window) {
   for (int width = shadow; width > 0; --width)
     painter.drawRoundedRect(window.adjusted(-width, -width + 3, width, width + 3), width, width);
 }
+
+int rowOf(const QAbstractItemView& list, const QString& text) {
+  for (int row = 0; row < list.model()->rowCount(); ++row)
+    if (list.model()->index(row, 0).data().toString() == text) return row;
+  return -1;
+}
+
+struct DropPlace {
+  QPointer<QWindow> window;
+  QPoint place;
+} dropPlace;
 
 }  // namespace
 
@@ -198,6 +211,10 @@ void Stage::clickRow(const QString& list, int row, Qt::KeyboardModifiers modifie
   QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, view->visualRect(index).center());
 }
 
+void Stage::clickText(const QString& list, const QString& text) {
+  if (auto* view = qobject_cast<QAbstractItemView*>(find(list))) clickRow(list, rowOf(*view, text));
+}
+
 void Stage::doubleClickRow(const QString& list, int row) {
   clickRow(list, row);
   auto* view = qobject_cast<QAbstractItemView*>(find(list));
@@ -213,6 +230,37 @@ void Stage::type(const QString& box, const QString& text) {
   line->setFocus();
   line->selectAll();
   QTest::keyClicks(line, text);
+}
+
+void Stage::fill(const QString& text) {
+  QWidget* box = QApplication::activeModalWidget();
+  auto* line = box ? box->findChild<QLineEdit*>() : nullptr;
+  if (!line) return;
+  line->selectAll();
+  QTest::keyClicks(line, text);
+}
+
+void Stage::beginDrag(const QString& list, const QString& text) {
+  auto* view = qobject_cast<QAbstractItemView*>(find(list));
+  if (!view) return;
+  const QModelIndex index = view->model()->index(rowOf(*view, text), 0);
+  QWidget* window = view->window();
+  const QPoint place = view->viewport()->mapTo(window, view->visualRect(index).center());
+  QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, place);
+  for (const int way : {8, 30}) QTest::mouseMove(window->windowHandle(), place - QPoint(0, way));
+}
+
+void Stage::dragOver(const QString& list) {
+  QWidget* target = find(list);
+  if (!target) return;
+  QWidget* window = target->window();
+  const QPoint place = target->mapTo(window, target->rect().center());
+  for (const QPoint& step : {QPoint(8, 8), QPoint()}) QTest::mouseMove(window->windowHandle(), place - step);
+  dropPlace = {window->windowHandle(), place};
+}
+
+void Stage::endDrag() {
+  if (dropPlace.window) QTest::mouseRelease(dropPlace.window, Qt::LeftButton, {}, dropPlace.place);
 }
 
 }  // namespace velmora::qt

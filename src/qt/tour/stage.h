@@ -49,10 +49,20 @@ class Stage : public QObject {
   static void choose(const QString& entry);
   /// Clicks a row of a list.
   static void clickRow(const QString& list, int row, Qt::KeyboardModifiers modifiers = {});
+  /// Clicks the row of a list that reads like this.
+  static void clickText(const QString& list, const QString& text);
   /// Clicks a row twice.
   static void doubleClickRow(const QString& list, int row);
   /// Replaces the text of a box key by key.
   static void type(const QString& box, const QString& text);
+  /// Types into the box of the dialog in front.
+  static void fill(const QString& text);
+
+  /// Takes a row of a list with the mouse. The drag goes on in a loop of its own until `endDrag`.
+  static void beginDrag(const QString& list, const QString& text);
+  /// Holds what is dragged over the middle of a list; `endDrag` lets go of it there.
+  static void dragOver(const QString& list);
+  static void endDrag();
 
  private:
   struct Step {
