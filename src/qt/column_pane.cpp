@@ -16,7 +16,7 @@ namespace {
 constexpr int headingHeight = 9 * unit;
 constexpr int commandWidth = 7 * unit;
 constexpr int leastNameWidth = 8 * unit;
-constexpr int comfortableNameWidth = 16 * unit;
+constexpr int comfortableNameWidth = 15 * unit;
 
 bool standsForGroup(const Text& row) {
   return row.starts_with(u"-<<");
@@ -25,6 +25,13 @@ bool standsForGroup(const Text& row) {
 int countOf(const ui::ListBox& list) {
   int rows = 0;
   for (int index = 0; index < list.ListCount(); ++index)
+    if (!standsForGroup(list.List(index))) ++rows;
+  return rows;
+}
+
+int selectedOf(const ui::ListBox& list) {
+  int rows = 0;
+  for (const int index : list.selectedIndexes())
     if (!standsForGroup(list.List(index))) ++rows;
   return rows;
 }
@@ -112,7 +119,7 @@ void ColumnPane::showCount(Refresher& refresher, const ui::ListBox& list, const 
     if (!list.visible()) return;
     if (list.ListCount() == 0) return count_->clearCount();
     count_->setAccessibleName("Number of " + noun.many);
-    count_->show(countOf(list), list.SelCount(), noun);
+    count_->show(countOf(list), selectedOf(list), noun);
   });
 }
 

@@ -130,6 +130,17 @@ TEST_F(DragTest, DraggingOneOfSeveralSelectedRowsTakesAllOfThem) {
   EXPECT_THAT(source.selectedIndexes(), ElementsAre(2)) << "a click without a drag selects the row alone";
 }
 
+TEST_F(DragTest, AClickOnARowThatCodeSelectedKeepsItSelected) {
+  source.setSelected(0, true);
+  clicks = 0;
+  QTest::mouseClick(sourceView->viewport(), Qt::LeftButton, {}, place(sourceView, 0));
+  EXPECT_THAT(source.selectedIndexes(), ElementsAre(0));
+  EXPECT_EQ(clicks, 1);
+  bench.turn();
+  EXPECT_THAT(source.selectedIndexes(), ElementsAre(0));
+  EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(DragTest, AListTakesItsOneWordAlone) {
   target.dropWord = u"List2";
   dragRow(2);

@@ -66,8 +66,9 @@ void addLook(Stage& stage, ui::Windows& windows, const QString& look) {
   stage.when(idle, [] { Stage::press("Assort Files Per Folders"); });
   stage.when([&windows] { return windows.form2.visible() && windows.form3.enabled(); },
              [] { Stage::clickRow("New genres", 0); });
-  stage.then([] { Stage::clickRow("Base genres", 0); });
+  stage.click("Base genres", "Rock");
   stage.picture(look + "-base", [&windows] { return windows.form3.enabled(); });
+  stage.then([] { Stage::choose("Show Processing Window"); });
 }
 
 }  // namespace velmora::qt

@@ -106,6 +106,11 @@ void addOptions(Stage& stage, ui::Windows& windows) {
 }
 
 void addBase(Stage& stage, ui::Windows& windows, const QString& music) {
+  stage.when(idle(windows), [] { Stage::clickRow("Files", 0); });
+  stage.then([] { QTest::keyClick(Stage::find("Files"), Qt::Key_A, Qt::ControlModifier); });
+  for (const char* command : {"FN <-- ID3", "Fix Syntax"})
+    stage.when(idle(windows), [command] { Stage::press(command); });
+  stage.picture("names-ready", idle(windows));
   stage.when(idle(windows), [] { Stage::press("Assort Files Per Folders"); });
   stage.picture("select-music-base-question", asked());
   stage.then([] { Stage::answer("Yes"); });

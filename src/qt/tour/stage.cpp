@@ -76,7 +76,7 @@ void paintShadow(QPainter& painter, const QRect& window) {
 
 int rowOf(const QAbstractItemView& list, const QString& text) {
   for (int row = 0; row < list.model()->rowCount(); ++row)
-    if (list.model()->index(row, 0).data().toString() == text) return row;
+    if (list.model()->index(row, 0).data().toString().trimmed() == text) return row;
   return -1;
 }
 
@@ -211,8 +211,12 @@ void Stage::clickRow(const QString& list, int row, Qt::KeyboardModifiers modifie
   QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, view->visualRect(index).center());
 }
 
-void Stage::clickText(const QString& list, const QString& text) {
-  if (auto* view = qobject_cast<QAbstractItemView*>(find(list))) clickRow(list, rowOf(*view, text));
+Stage& Stage::click(const QString& list, const QString& text) {
+  const auto row = [list, text] {
+    auto* view = qobject_cast<QAbstractItemView*>(find(list));
+    return view && !QApplication::activeModalWidget() ? rowOf(*view, text) : -1;
+  };
+  return when([row] { return row() >= 0; }, [list, row] { clickRow(list, row()); });
 }
 
 void Stage::doubleClickRow(const QString& list, int row) {

@@ -49,8 +49,8 @@ class Stage : public QObject {
   static void choose(const QString& entry);
   /// Clicks a row of a list.
   static void clickRow(const QString& list, int row, Qt::KeyboardModifiers modifiers = {});
-  /// Clicks the row of a list that reads like this.
-  static void clickText(const QString& list, const QString& text);
+  /// Clicks the row of a list that reads like this, as soon as there is one.
+  Stage& click(const QString& list, const QString& text);
   /// Clicks a row twice.
   static void doubleClickRow(const QString& list, int row);
   /// Replaces the text of a box key by key.
