@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <utility>
 
 #include "core/number_text.h"
@@ -73,7 +72,10 @@ int workingRows(const TrackTable& table, int stored) {
 }  // namespace
 
 DataFolder::DataFolder(platform::Files& files, Settings& settings, Text programFolder)
-    : files_(files), settings_(settings), folder_(paths::join(programFolder, u"Data")) {}
+    : files_(files),
+      settings_(settings),
+      folder_(paths::join(programFolder, u"Data")),
+      changing_(paths::join(programFolder, u"velmora.changing")) {}
 
 TextView DataFolder::fileOf(Column column) {
   const auto found = std::ranges::find(columnFiles, column, &ColumnFile::column);
@@ -196,16 +198,28 @@ void DataFolder::SaveID3nizove(const TrackTable& table) {
       records::write(file.content, element);
     }
   }
-  // Which rows are read is told last, when all that was read stands.
   beginChange();
-  for (File& file : std::views::reverse(files)) {
+  for (File& file : files) {
     records::writeNothing(file.content, file.nothing);
     store(fileOf(file.column), file.content);
   }
+  endChange();
 }
 
 void DataFolder::beginChange() {
-  remove(fileOf(&Track::procitan));
+  try {
+    if (!files_.fileExists(changing_)) files_.writeAll(changing_, {});
+  } catch (const platform::FileError&) {
+    // Without the mark a kill may leave a row read that is not; nothing worse.
+  }
+}
+
+void DataFolder::endChange() {
+  try {
+    if (files_.fileExists(changing_)) files_.remove(changing_);
+  } catch (const platform::FileError&) {
+    // The next start reads tags that it could have taken from the columns.
+  }
 }
 
 void DataFolder::readNames(TrackTable& table) const {
@@ -222,7 +236,11 @@ void DataFolder::readNames(TrackTable& table) const {
 }
 
 void DataFolder::readTags(TrackTable& table) const {
-  for (const Column column : tagColumns()) takeColumn(table, column, readColumn(fileOf(column)));
+  const bool changing = files_.fileExists(changing_);
+  for (const Column column : tagColumns()) {
+    const bool untrue = changing && column == &Track::procitan;
+    takeColumn(table, column, untrue ? std::vector<Element>() : readColumn(fileOf(column)));
+  }
   table.brojbaza = static_cast<int>(table.bazepesama.size());
   table.setBrojfajlova(workingRows(table, intValue(settings_.get(u"ghb"))));
 }

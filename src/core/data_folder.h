@@ -32,7 +32,8 @@ class DataFolder {
   /// Writes the fifteen tag columns.
   void SaveID3nizove(const TrackTable& table);
   /// Songs and rows are about to change: until SaveID3nizove has told how, a start of the program takes no
-  /// row for read and asks the files again. So a kill leaves no columns that speak of other songs.
+  /// row for read and asks the files again. So a kill leaves no columns that speak of other songs. The file
+  /// velmora.changing in the program folder marks that time.
   void beginChange();
   /// File that a column is kept in, such as "crtapos.txt"; empty for `pevac` and `pesma`.
   static TextView fileOf(Column column);
@@ -46,10 +47,12 @@ class DataFolder {
  private:
   /// Makes `content` the file's content, or removes the file when that is empty or cannot be written.
   void store(TextView fileName, BytesView content);
+  void endChange();
 
   platform::Files& files_;
   Settings& settings_;
   Text folder_;
+  Text changing_;  // full path of the mark
 };
 
 }  // namespace velmora::core

@@ -54,8 +54,7 @@ void SkiniID3v1(platform::Files& files, platform::Desktop& desktop, player::File
   auto song = files.open(path, platform::OpenMode::Read);
   const std::uint64_t size = song->size();
   if (size <= cMP3ID3v1::tagBytes) throw notAValidMP3File(path);
-  // After a kill the copy stays behind, and must not be taken for a song.
-  keepPart(files, desktop, path, std::move(song), 0, size - cMP3ID3v1::tagBytes, u".mp3.part");
+  keepPart(files, desktop, path, std::move(song), 0, size - cMP3ID3v1::tagBytes, u".mp3");
 }
 
 }  // namespace velmora::tags

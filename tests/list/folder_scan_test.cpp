@@ -37,7 +37,7 @@ TEST_F(FolderScanTest, TheLastThreeCharactersTellMusicFromOtherFiles) {
                               folder.write(u"music/xmp3", ""), folder.write(u"music/ogg", ""),
                               folder.write(u"music/c.wav", "")});
   const Texts others = sorted({folder.write(u"music/a.mpeg", ""), folder.write(u"music/b.jpg", ""),
-                               folder.write(u"music/3", ""), folder.write(u"music/d.mp3.part", "")});
+                               folder.write(u"music/3", ""), folder.write(u"music/d.mp3.new", "")});
   scan();
   EXPECT_EQ(music, songs);
   EXPECT_EQ(other, others);

@@ -64,11 +64,11 @@ TEST_F(Removal, LetsEventsThroughAfterEachBlock) {
 
 TEST_F(Removal, TheCopyOverwritesNobody) {
   folder.write(u"song.mp3.new", "new");
-  folder.write(u"song.mp3.mp3.part", "left by a kill");
+  folder.write(u"song.mp3.mp3", "another song");
   EXPECT_EQ(withoutID3v2(test::Id3v2Maker().padding(30).bytes() + audio), audio);
   EXPECT_EQ(withoutID3v1(audio + test::id3v1Tag({})), audio);
   EXPECT_EQ(folder.read(u"song.mp3.new"), "new");
-  EXPECT_EQ(folder.read(u"song.mp3.mp3.part"), "left by a kill");
+  EXPECT_EQ(folder.read(u"song.mp3.mp3"), "another song");
   EXPECT_EQ(files.list(folder.path()).entries.size(), 3U);
 }
 
