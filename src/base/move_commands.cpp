@@ -95,10 +95,11 @@ void MoveCommands::moveTitle() {
 
 void MoveCommands::run(MoveColumn column, const Text& caption,
                        const std::function<Text(MoveCollect&)>& plan) {
-  const ActiveWindow atWork(parts_.table, newMusicWindow);
   {
+    const ActiveWindow atWork(parts_.table, newMusicWindow);
     const Busy busy(parts_.windows, parts_.progress, caption);
     openMusicUndoGroup(parts_.journal, parts_.snapshot);
+    parts_.data.beginChange();
     AfterMove after({parts_.table, parts_.windows, parts_.base, parts_.lists});
     Text target;
     std::vector<PlannedMove> moves;

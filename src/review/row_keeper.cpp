@@ -31,6 +31,23 @@ bool RowKeeper::listFollows() const {
   return batches_ == 0 && list::viewOf(parts_.form1) == list::View::Music;
 }
 
+void RowKeeper::closeBatch() {
+  paths_.reset();
+  listRows();
+}
+
+/// Outside of a batch rows are put back in ascending order, where a row that the table has bears its number.
+bool RowKeeper::tableHas(int row, const Text& path) {
+  const core::TrackTable& table = parts_.table;
+  if (table.path(row) == path) return true;
+  if (batches_ == 0) return false;
+  if (!paths_) {
+    paths_.emplace();
+    for (int any = 1; any <= table.workingRows(); ++any) paths_->insert(table.path(any));
+  }
+  return !paths_->insert(path).second;
+}
+
 /// Fills the file list from the rows. The lines that were selected are known by their paths.
 void RowKeeper::listRows() {
   if (list::viewOf(parts_.form1) != list::View::Music) return;
@@ -57,6 +74,7 @@ void RowKeeper::removeRow(int row) {
   parts_.journal.appendUndoRecord("izb", core::number(std::int64_t{row}), rowSnapshot(table, row));
   const bool listed = row <= table.brojfajlova() && listFollows();
   const Text artist = table.track(row).pevac.text();
+  if (paths_) paths_->erase(table.path(row));
   table.removeRow(row);
   if (listed) parts_.form1.List4.RemoveItem(row - 1);
   if (table.currentRow == row)
@@ -70,7 +88,7 @@ void RowKeeper::restoreRow(int row, const RowSnapshot& snapshot, const Text& pat
   core::TrackTable& table = parts_.table;
   if (!parts_.files.fileExists(path)) return;
   // After a crash the table may be older than the journal, and then it never lost the row.
-  if (table.path(row) == path) return;
+  if (tableHas(row, path)) return;
   const bool working = row <= snapshot.brojfajlova;
   row = std::min(row, (working ? table.workingRows() : table.rows()) + 1);
   table.insertRow(row);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <unordered_set>
 
 #include "core/track_table.h"
 #include "platform/files.h"
@@ -35,12 +37,13 @@ class RowKeeper {
 
   /// Open while a command removes or restores many rows, so that each costs the same however long the file
   /// list is: the list follows all at once when the last scope closes, and keeps its selection. Its lines
-  /// are not those of the rows meanwhile.
+  /// are not those of the rows meanwhile. A row that the table has already, be it under another number, is
+  /// not put back.
   class Batch {
    public:
     explicit Batch(RowKeeper& keeper) : keeper_(keeper) { ++keeper_.batches_; }
     ~Batch() {
-      if (--keeper_.batches_ == 0) keeper_.listRows();
+      if (--keeper_.batches_ == 0) keeper_.closeBatch();
     }
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
@@ -50,11 +53,14 @@ class RowKeeper {
   };
 
  private:
+  void closeBatch();
+  bool tableHas(int row, const Text& path);
   bool listFollows() const;
   void listRows();
 
   Parts parts_;
   int batches_ = 0;
+  std::optional<std::unordered_set<Text>> paths_;  // of all rows, from the first restore in a batch on
 };
 
 /// Gives a row the flags, tag columns and path of a snapshot.

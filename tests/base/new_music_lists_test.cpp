@@ -42,6 +42,21 @@ TEST_F(NewMusicListsTest, AnEmptyTableLeavesAllListsEmpty) {
     EXPECT_EQ(list->ListCount(), 0);
 }
 
+TEST_F(NewMusicListsTest, TheFirstListingComesBehindAProgressWindow) {
+  song(u"A - 1", {u"Rock"});
+  table.aktivniprozor = 3;
+  Text said;
+  desktop.then([&] {
+    said = windows.dialog1.text.text();
+    EXPECT_FALSE(form3.enabled());
+  });
+  music.IzlistajVrste();
+  EXPECT_EQ(said, u"Preparing List ...");
+  EXPECT_TRUE(form3.enabled());
+  EXPECT_FALSE(windows.dialog1.visible());
+  EXPECT_EQ(form2.newLabel.text(), u"New: 1");
+}
+
 /// Everything that can be chosen in random tables lists what a walk over all rows lists, in its order.
 TEST_F(NewMusicListsTest, ListsAreThoseOfThePlainWalk) {
   std::mt19937 random(20);
