@@ -98,7 +98,7 @@ void TrackTable::resizeColumns() {
 }
 
 void TrackTable::erase(Column column) {
-  for (auto& track : tracks_) (*track).*column = {};
+  for (std::size_t i = 0; i < tracks_.size(); ++i) (*tracks_[i]).*column = {};
   upperBounds_[indexOf(column)] = -1;
   if (column == &Track::nizdes) rows_ = 0;
   forgetCounts();
@@ -122,7 +122,7 @@ void TrackTable::removeRow(int row) {
   if (!hasRow(row)) return;
   const bool working = row <= brojfajlova_;
   count(row, -1);
-  tracks_.erase(tracks_.begin() + (row - 1));
+  tracks_.erase(static_cast<std::size_t>(row - 1));
   for (int& bound : upperBounds_)
     if (bound >= row) --bound;
   --rows_;
@@ -134,7 +134,7 @@ void TrackTable::insertRow(int row) {
   // The last row of the working list becomes the first of the tail.
   const bool passesOn = row <= brojfajlova_ && brojfajlova_ <= rows_;
   if (passesOn) count(brojfajlova_, -1);
-  tracks_.insert(tracks_.begin() + (row - 1), std::make_unique<Track>());
+  tracks_.insert(static_cast<std::size_t>(row - 1), std::make_unique<Track>());
   ++rows_;
   upperBounds_.fill(rows_);
   if (passesOn) count(brojfajlova_ + 1, 1);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/element.h"
+#include "core/gap_vector.h"
 #include "platform/text.h"
 
 namespace velmora::core {
@@ -117,7 +118,7 @@ class TrackTable {
   void count(int row, int change);
   void countInto(int row, int change) const;
 
-  std::vector<std::unique_ptr<Track>> tracks_;  // as long as the longest column
+  GapVector<std::unique_ptr<Track>> tracks_;  // as long as the longest column
   std::array<int, 19> upperBounds_;
   int rows_ = 0;
   int brojfajlova_ = 0;
