@@ -6,9 +6,7 @@ namespace velmora::app {
 
 namespace {
 
-// All in twips.
-constexpr int leastRoom = 4320;  // three inches
-constexpr int titleBar = 540;    // what the desktop puts around a window, about
+constexpr int leastRoom = 4320;  // twips: three inches
 
 }  // namespace
 
@@ -20,6 +18,7 @@ void SharedScreen::share() {
   const platform::ScreenRoom room = desktop_.screenRoom();
   if (room.height <= 0) return;
 
+  const int titleBar = base_.frameHeight();
   ui::Placement base = placement_;
   const bool fills = state_ == ui::WindowState::Maximised || base.height <= 0;
   if (fills) base = {room.left, room.top, room.width, room.height - titleBar};

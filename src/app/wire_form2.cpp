@@ -59,6 +59,7 @@ void wireMoves(House& house) {
   // A column that is dragged onto the same column of the base is moved there. The albums by folder go by the
   // same word as those by tag.
   const auto drops = [](ui::ListBox& target, const Text& word, ui::Button& move) {
+    target.dropWord = word;
     target.onDrop = [&move, word](const Text& dragged) {
       if (dragged == word) move.click();
     };

@@ -54,8 +54,11 @@ class WindowBinding final : public QObject {
     refreshing_ = true;
     if (const QString caption = shown(model_.caption()); widget_->windowTitle() != caption)
       widget_->setWindowTitle(caption);
+    // A place is that of a window in its normal state.
+    const bool normal = model_.state() == ui::WindowState::Normal;
+    if (normal) showState();
     showPlacement();
-    showState();
+    if (!normal) showState();
     if (widget_->isVisible() != model_.visible()) widget_->setVisible(model_.visible());
     if (model_.frontRequests() != frontRequests_ && model_.visible()) {
       widget_->raise();

@@ -136,7 +136,7 @@ void ColumnPane::addName(QWidget* box, int stretch) {
   box->setMinimumWidth(leastNameWidth);
   names_->insertWidget(names_->count() - static_cast<int>(commands_.size()), box, stretch);
   namesWidth_ += leastNameWidth + tight;
-  roomForWords_ += comfortableNameWidth;
+  comfort_ += comfortableNameWidth - leastNameWidth;
 }
 
 void ColumnPane::addCommand(QAction* action, const QString& name, Qt::ToolButtonStyle style) {
@@ -149,8 +149,7 @@ void ColumnPane::addCommand(QAction* action, const QString& name, Qt::ToolButton
   button->setAccessibleName(name);
   button->setMinimumSize(commandWidth, commandWidth);
   names_->addWidget(button);
-  roomForWords_ += button->sizeHint().width() + gap;
-  commands_.push_back({button, style});
+  commands_.push_back({button, style, button->sizeHint().width()});
   connect(action, &QAction::changed, this, [this] { arrange(); });
 }
 
@@ -164,14 +163,18 @@ void ColumnPane::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
 }
 
+// The first commands keep their words, and their place, longest.
 void ColumnPane::arrange() {
-  const bool words = width() >= roomForWords_;
   int room = width() - 2 * gap - namesWidth_;
   for (const Command& command : commands_) {
-    command.button->setToolButtonStyle(words ? command.style : Qt::ToolButtonIconOnly);
     room -= commandWidth + tight;
-    command.button->setVisible(commandsVisible_ && command.button->defaultAction()->isVisible() &&
-                               (words || room >= 0));
+    command.button->setVisible(commandsVisible_ && room >= 0 && command.button->defaultAction()->isVisible());
+  }
+  room -= comfort_;
+  for (const Command& command : commands_) {
+    const bool words = room >= command.width - commandWidth;
+    if (words) room -= command.width - commandWidth;
+    command.button->setToolButtonStyle(words ? command.style : Qt::ToolButtonIconOnly);
   }
 }
 

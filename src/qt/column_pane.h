@@ -58,13 +58,14 @@ class ColumnPane : public QWidget {
   struct Command {
     QToolButton* button;
     Qt::ToolButtonStyle style;
+    int width;  // with its words
   };
   void arrange();
 
   std::vector<Command> commands_;
   bool commandsVisible_ = true;
-  int namesWidth_ = 0;    // that the name boxes need at least
-  int roomForWords_ = 0;  // width of the pane from which on its commands are shown in full
+  int namesWidth_ = 0;  // that the name boxes need at least
+  int comfort_ = 0;     // and what they want beyond before commands get words
 };
 
 /// Takes the keyboard from one list to its neighbour in sight by Left and Right.

@@ -167,6 +167,9 @@ class Columns {
     ListView* list =
         addList(pane, form2_.List4, "New titles", {"title", "titles"}, {"No titles", "Select an album."});
     QLineEdit* name = addBox(pane, form2_.Text4, "Name of new title", "Title of the song last clicked");
+    auto* play = new QAction(glyph("play"), "&Play\tEnter", list);
+    QObject::connect(play, &QAction::triggered, play, [&model = form2_.List4] { model.doubleClick(); });
+    list->addAction(play);
     addCommands(pane, {list}, form2_.moveTitle, titleMoveTip, nullptr, "titles");
     joinListAndName(list, name);
   }

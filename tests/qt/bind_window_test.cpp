@@ -4,6 +4,7 @@
 
 #include <QScreen>
 
+#include "qt/twips.h"
 #include "tests/qt/bench.h"
 
 namespace velmora::qt {
@@ -101,6 +102,14 @@ TEST_F(BindWindowTest, TheStateGoesBothWaysAndKeepsTheNormalPlace) {
   turn();
   EXPECT_FALSE(widget.isMinimized() || widget.isMaximized());
   EXPECT_EQ(model.placement(), normal);
+  model.setState(ui::WindowState::Maximised);
+  turn();
+  const ui::Placement half = {normal.left, normal.top, normal.width, normal.height / 2};
+  model.setState(ui::WindowState::Normal);
+  model.setPlacement(half);
+  turn();
+  EXPECT_EQ(model.placement(), half) << "a place that comes along with the normal state is taken";
+  EXPECT_EQ(toTwips(widget.height(), &widget), half.height);
 }
 
 TEST_F(BindWindowTest, TellsWhenItComesToTheFrontAndLosesIt) {

@@ -71,8 +71,9 @@ class WalkTest : public testing::Test {
     if (auto* button = named<QAbstractButton>(name)) QTest::mouseClick(button, Qt::LeftButton);
     turn();
   }
-  void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
-    auto* list = named<ListView>("Files");
+  void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) { clickRow("Files", row, modifiers); }
+  void clickRow(const QString& name, int row, Qt::KeyboardModifiers modifiers = {}) {
+    auto* list = named<ListView>(name);
     const QModelIndex index = list->model()->index(row, 0);
     list->scrollTo(index);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, list->visualRect(index).center());
@@ -161,6 +162,36 @@ TEST_F(WalkTest, TheSameFolderTwiceIsRefusedInWords) {
   press("New List");
   EXPECT_TRUE(question.startsWith("This will clear current list."));
   EXPECT_EQ(form1().List4.ListCount(), songs);
+  end();
+}
+
+TEST_F(WalkTest, AnArtistGoesIntoTheBaseAndComesBackOnUndo) {
+  folder.mkdir(u"base/Pop");
+  folder.write(u"state/Settings.ini",
+               Bytes("\"AKTIVNIPROZOR   1\"\r\n\"SHOWTIPSASSTARTUP  False\"\r\n\"DIRZABAZU  ") +
+                   folder.native(u"base") + "\"\r\n");
+  start();
+  add(folder.path(u"music"));
+  press("Assort Files Per Folders");
+  EXPECT_EQ(named<QAbstractButton>("Show New Music Window")->text(), "Hide &New Music Window");
+  clickRow("New genres", 1);
+  clickRow("New artists", 3);
+  clickRow("Base genres", 0);
+  press("MOVE artist");
+  const int left = form1().List4.ListCount();
+  EXPECT_LT(left, songs);
+  ui::Form3& form3 = program->velmora().windows().form3;
+  ASSERT_GT(form3.List2.ListCount(), 0);
+  const Text moved = u"base/Pop/" + form3.List2.List(0);
+  EXPECT_TRUE(folder.exists(moved));
+  end();
+
+  start();
+  EXPECT_EQ(named<ListView>("Base artists")->model()->rowCount(), 1) << "as it was left";
+  EXPECT_TRUE(named<ListView>("New genres")->isVisible());
+  press("Undo Last Operation");
+  EXPECT_EQ(form1().List4.ListCount(), songs);
+  EXPECT_FALSE(folder.exists(moved));
   end();
 }
 
