@@ -37,34 +37,36 @@ void Replay::replayUndo(std::string_view stopKind) {
   if (!parts_.journal.exists()) return;
   parts_.data.beginChange();
   try {
-    work(stopKind);
+    const std::uint64_t left = takeBack(stopKind);
+    // The journal goes last: records that a kill leaves in it are passed over by the next undo, but nothing
+    // would bring a table that is older than the journal up to the songs' names.
     parts_.errors.attempt([this] { parts_.data.savenizove(parts_.table); });
     parts_.errors.attempt([this] { parts_.data.SaveID3nizove(parts_.table); });
+    parts_.errors.attempt([&] { parts_.journal.cutAt(left); });
   } catch (const UndoCancelled&) {
     // The journal keeps all its records: an undo that is tried again passes over what is done already.
   }
 }
 
-void Replay::work(std::string_view stopKind) {
+/// Returns where the journal is to be cut.
+std::uint64_t Replay::takeBack(std::string_view stopKind) {
   const Text stop = core::ascii(stopKind);
   const std::uint64_t total = parts_.journal.size();
   std::uint64_t left = total;
-  {
-    const ArtistBook::Batch artists(parts_.artists);
-    parts_.errors.attempt([&] {
-      parts_.journal.visitFromNewest([&](const Text& line, std::uint64_t offset) {
-        left = offset;
-        const UndoRecord record = parseUndoRecord(line);
-        const Inverse inverse = inverseOf(record.kind);
-        UndoOutcome outcome = UndoOutcome::Done;
-        if (inverse && record.data) parts_.errors.attempt([&] { outcome = (this->*inverse)(*record.data); });
-        if (parts_.progress.shown())
-          parts_.progress.UpdateProgress((1 - static_cast<double>(left) / static_cast<double>(total)) * 100);
-        return outcome != UndoOutcome::Abort && record.kind != stop && !parts_.table.Stop;
-      });
+  const ArtistBook::Batch artists(parts_.artists);
+  parts_.errors.attempt([&] {
+    parts_.journal.visitFromNewest([&](const Text& line, std::uint64_t offset) {
+      left = offset;
+      const UndoRecord record = parseUndoRecord(line);
+      const Inverse inverse = inverseOf(record.kind);
+      UndoOutcome outcome = UndoOutcome::Done;
+      if (inverse && record.data) parts_.errors.attempt([&] { outcome = (this->*inverse)(*record.data); });
+      if (parts_.progress.shown())
+        parts_.progress.UpdateProgress((1 - static_cast<double>(left) / static_cast<double>(total)) * 100);
+      return outcome != UndoOutcome::Abort && record.kind != stop && !parts_.table.Stop;
     });
-  }
-  parts_.errors.attempt([&] { parts_.journal.cutAt(left); });
+  });
+  return left;
 }
 
 UndoOutcome Replay::undoRename(const Data& data) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string_view>
 
@@ -63,7 +64,7 @@ class Replay {
   using Inverse = UndoOutcome (Replay::*)(const Data&);
   static Inverse inverseOf(TextView kind);
 
-  void work(std::string_view stopKind);
+  std::uint64_t takeBack(std::string_view stopKind);
   UndoOutcome undoRename(const Data& data);
   UndoOutcome undoTags(const Data& data);
   UndoOutcome undoDelete(const Data& data);

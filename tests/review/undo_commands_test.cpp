@@ -86,6 +86,32 @@ TEST_F(UndoTest, TornAndDamagedLinesDoNothingAndThoseBelowStillUndo) {
   }
 }
 
+TEST_F(UndoTest, ADamagedLineInTheMiddleKeepsNoOtherFromItsUndo) {
+  add({{u"c"}});
+  const Bytes other = renamed(u"x", u"y");
+  for (const Bytes& damage : {other.substr(0, other.size() / 2) + "\r\n", Bytes("\"ren9\"\r\n"),
+                              Bytes("\x00\xFF\r\n", 4), Bytes("rubbish\r\n")}) {
+    write(st1 + renamed(u"a", u"b") + damage + renamed(u"b", u"c"));
+    undo();
+    EXPECT_EQ(names(), (Names{"a"})) << damage;
+    EXPECT_EQ(journal(), "") << damage;
+    program.files.move(pathOf(u"a"), pathOf(u"c"));
+  }
+}
+
+TEST_F(UndoTest, ATagOfAnotherProgramStaysWhenTheOneThatWasMadeGoes) {
+  add({{u"a", {}, {.title = u"t"}}, {u"b"}});
+  form1().tags.writeID3v1.setChecked(false);
+  form1().tags.writeID3v2.setChecked(true);
+  select({u"b"});
+  click(tools().fnToId3);
+  const Bytes bytes = program.files.readAll(pathOf(u"b"));
+  program.files.writeAll(pathOf(u"b"), bytes + test::id3v1Tag({.title = u"of another"}));
+  undo();
+  EXPECT_EQ(second(u"b"), "none");
+  EXPECT_EQ(first(u"b"), "|of another|||0");
+}
+
 TEST_F(UndoTest, ARowBeyondTheTableHarmsNothing) {
   add({{u"b"}});
   write(st1 + renamed(u"a", u"b", 7000));
