@@ -44,6 +44,16 @@ bool fill(tags::cMP3ID3v1& tag, const core::Track& track) {
   return differs;
 }
 
+/// Whether the tag tells the genre of the column. "Blues" cannot be looked up, and stays what it was changed
+/// to.
+bool genreIsBack(const tags::cMP3ID3v1& tag, const core::Track& track) {
+  return tags::GenreName(tag.Genre) == track.vrstaid3v1.text();
+}
+
+bool genreIsBack(const tags::cMP3ID3v2&, const core::Track&) {
+  return true;
+}
+
 void setGenre(tags::cMP3ID3v2& tag, const Text& genre) {
   if (genre.empty())
     tag.setGenre(noGenre);
@@ -131,7 +141,9 @@ UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {
     UpdateResult result = UpdateResult::Done;
     parts_.errors.attempt([&] {
       tag.setMP3File(path);
-      if (!fill(tag, track)) return;
+      const bool differs = fill(tag, track);
+      if (!genreIsBack(tag, track)) track.procitan = false;
+      if (!differs) return;
       result = makeWritable(path) ? tag.Update({parts_.dialogs, parts_.table}) : UpdateResult::Ignore;
     });
     if (result == UpdateResult::Ignore) track.procitan = false;

@@ -112,6 +112,20 @@ TEST_F(UndoTest, ATagOfAnotherProgramStaysWhenTheOneThatWasMadeGoes) {
   EXPECT_EQ(first(u"b"), "|of another|||0");
 }
 
+TEST_F(UndoTest, AGenreThatCannotComeBackIsNotShownAsIfItHad) {
+  const Bytes blues = test::mpegFrames() + test::id3v1Tag({.title = u"t", .artist = u"a"}, 0);
+  program.song(u"in/a.mp3", blues);
+  program.startInProcessingWindow();
+  program.addFolder(program.folder.path(u"music/in"));
+  select({u"a"});
+  EXPECT_EQ(form1().tags.genre.text(), u"Blues");
+  form1().tags.writeID3v1.setChecked(true);
+  form1().tags.genre.setText(u"Opera");
+  click(form1().update);
+  undo();
+  EXPECT_EQ(program.table().track(1).vrstaid3v1.text(), u"Opera") << "as the file has it";
+}
+
 TEST_F(UndoTest, ARowBeyondTheTableHarmsNothing) {
   add({{u"b"}});
   write(st1 + renamed(u"a", u"b", 7000));
