@@ -13,8 +13,6 @@ struct Events {
   std::function<void()> onResumeDuplicates;
   /// The user leaves the Processing Window in the middle of a review: Exit From Step 3.
   std::function<void()> onExitReview;
-  /// Whether the newest stretch of the journal is one that Undo of the Processing Window takes back.
-  std::function<void(bool canUndo)> onUndoState;
 
   /// The program ends: timers stop, and files that are open are let go.
   std::function<void()> onEnding;

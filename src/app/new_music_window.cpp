@@ -42,6 +42,7 @@ void NewMusicWindow::load() {
   });
   table.puniliste = 0;
   parts_.windows.form2.Combo1.setRows(tags::genreRows());
+  parts_.summary.forget();
   guarded([&] { parts_.summary.moze(); });
   guarded([&] { parts_.undo.showState(); });
   // While it is open a click in the base must not start a song, and all is played in the preview player.

@@ -93,9 +93,8 @@ void startInBaseWindow(House& house) {
 }
 
 void finishForm1(House& house) {
-  guarded([&] {
-    if (house.events.onUndoState) house.events.onUndoState(house.journal.lastUndoMarker() == "st1");
-  });
+  guarded([&] { house.repair.undoCommands.showState(); });
+  guarded([&] { house.baseRoom.undo.showState(); });
   house.table.puniliste = 0;
   house.windows.form1.tags.genre.setRows(tags::genreRows());
   enableCommands(house);

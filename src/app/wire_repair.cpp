@@ -59,7 +59,6 @@ void wireUndo(House& house) {
     room.undoCommands.showState(kind);
     house.windows.form2.undoLastOperation.setEnabled(kind == "st2");
   };
-  house.events.onUndoState = [&room](bool) { room.undoCommands.showState(); };
 }
 
 void wireDelete(House& house) {

@@ -32,9 +32,10 @@ QWidget* makeBottomBar(Refresher& refresher, ui::Form1& form1) {
 
 }  // namespace
 
-Form3View::Form3View(const ViewContext& context, ui::Form3& form3, ui::Form1& form1) {
+Form3View::Form3View(const ViewContext& context, ui::Windows& windows) {
   Refresher& refresher = context.refresher;
-  makeMenus(refresher, form3);
+  ui::Form3& form3 = windows.form3;
+  makeMenus(refresher, form3, windows.form2);
 
   auto* hideButtons = new QAction("Show &menu and buttons", this);
   hideButtons->setShortcut(QKeySequence("Ctrl+M"));
@@ -59,7 +60,7 @@ Form3View::Form3View(const ViewContext& context, ui::Form3& form3, ui::Form1& fo
   layout->addWidget(line());
   layout->addWidget(pages, 1);
   layout->addWidget(line());
-  layout->addWidget(makeBottomBar(refresher, form1));
+  layout->addWidget(makeBottomBar(refresher, windows.form1));
   setCentralWidget(content);
   refresher.watch(form3.menuAndButtons, this, [this, &form3, topBar, hideButtons] {
     menuBar()->setVisible(form3.menuAndButtons.visible());
@@ -70,7 +71,7 @@ Form3View::Form3View(const ViewContext& context, ui::Form3& form3, ui::Form1& fo
   bindWindow(context, form3, this, designSize);
 }
 
-void Form3View::makeMenus(Refresher& refresher, ui::Form3& form3) {
+void Form3View::makeMenus(Refresher& refresher, ui::Form3& form3, ui::Form2& form2) {
   const auto add = [&](QMenu* menu, const QString& text, const QString& icon, ui::Button& model,
                        const QString& keys = {}) {
     QAction* action = menu->addAction(icon.isEmpty() ? QIcon() : glyph(icon), text);
@@ -83,6 +84,8 @@ void Form3View::makeMenus(Refresher& refresher, ui::Form3& form3) {
   base->addSeparator();
   add(base, "Show &Processing Window", "processing", form3.showProcessingWindow, "Ctrl+P");
   add(base, "Show &New Music Window", "new-music", form3.showNewMusic, "Ctrl+N");
+  // Here too, since the New Music Window closes when the last file has been moved.
+  add(base, "&Undo Last Operation", "undo", form2.undoLastOperation, "Ctrl+Z");
   base->addSeparator();
   add(base, "Select &Years", "calendar", form3.selectYears, "Ctrl+Y");
   base->addSeparator();

@@ -3,8 +3,7 @@
 #include <QMainWindow>
 
 #include "qt/bind_window.h"
-#include "ui/form1.h"
-#include "ui/form3.h"
+#include "ui/windows.h"
 
 namespace velmora::qt {
 
@@ -14,11 +13,11 @@ class Form3View : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `form1` holds the player, which plays for this window too.
-  Form3View(const ViewContext& context, ui::Form3& form3, ui::Form1& form1);
+  /// The player and the undo of MOVE are those of the other windows.
+  Form3View(const ViewContext& context, ui::Windows& windows);
 
  private:
-  void makeMenus(Refresher& refresher, ui::Form3& form3);
+  void makeMenus(Refresher& refresher, ui::Form3& form3, ui::Form2& form2);
   QWidget* makeTopBar(Refresher& refresher, ui::Form3& form3);
 };
 

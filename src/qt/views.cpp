@@ -13,7 +13,7 @@ namespace velmora::qt {
 Views::Views(ui::Windows& windows, const ViewContext& context) {
   const auto add = [this](QWidget* window) { windows_.emplace_back(window); };
   add(new Form1View(context, windows.form1, windows.form3));
-  auto* base = new Form3View(context, windows.form3, windows.form1);
+  auto* base = new Form3View(context, windows);
   add(base);
   add(new Form2View(context, windows.form2, windows.form3, base));
   add(makeForm5(context, windows.form5));

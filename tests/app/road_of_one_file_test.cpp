@@ -146,5 +146,31 @@ TEST_F(RoadOfOneFile, FromAnEmptyProgramFolderIntoTheBase) {
   EXPECT_EQ(form2().newLabel.text(), u"New: 3");
 }
 
+TEST_F(RoadOfOneFile, TheLastMoveClosesTheNewMusicAndCanStillBeTakenBack) {
+  song(u"kora - rain", {.genre = u"Pop"});
+  program.settings.set(u"DirZaBazu", program.folder.mkdir(u"base"));
+  program.startInProcessingWindow();
+  program.addFolder(program.folder.path(u"music/in"));
+  form1().assort.click();
+  goTo(form2());
+  click(form2().List1, u"-<< Every Autor >>-");
+  program.dialogs.expect(
+      u"Congratulations, you was successfully moved all new music files into Music Base folder. ", u"Move",
+      Answer::Ok);
+  form2().moveGenre.click();
+  EXPECT_TRUE(inBase(u" Every Autors/kora/kora - rain.mp3"));
+  EXPECT_FALSE(form2().visible());
+  EXPECT_FALSE(form3().showNewMusic.enabled());
+
+  program.restart();
+  form2().undoLastOperation.click();
+  EXPECT_TRUE(inNewMusic(u"kora - rain.mp3"));
+  EXPECT_TRUE(form3().showNewMusic.enabled());
+  EXPECT_FALSE(form2().undoLastOperation.enabled());
+  EXPECT_TRUE(form3().enabled());
+  form3().showNewMusic.click();
+  EXPECT_EQ(form2().newLabel.text(), u"New: 1");
+}
+
 }  // namespace
 }  // namespace velmora::app
