@@ -197,6 +197,7 @@ void FolderCommands::delAlbum() {
   std::vector<Text> folders;
   for (const int album : selectedAlbums()) folders.push_back(parts_.lists.albumPath(album));
   if (albums.Selected(0) && parts_.lists.isWithoutFolder(0)) parts_.fileCommands.delWithoutFolder();
+  if (parts_.table.Stop) return;
   del(albums, folders, [this] {
     const list::QuietLists quiet(parts_.table);
     parts_.lists.List2Click();

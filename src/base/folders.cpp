@@ -20,6 +20,9 @@ constexpr int newMusicWindow = 2;
 bool Folders::PostojiDir(TextView path) {
   const Text folder(withoutSeparator(path));
   if (parts_.files.folderExists(folder)) return true;
+  // A base whose disk is not there must not be begun anew in its place.
+  if (!parts_.files.folderExists(Text(core::paths::folderPart(folder))))
+    throw FileError(FileError::pathNotFound);
   if (parts_.table.aktivniprozor == newMusicWindow)
     parts_.journal.appendUndoRecord("mkd", core::trim(folder), {});
   parts_.files.makeFolder(folder);

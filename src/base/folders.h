@@ -19,7 +19,7 @@ class Folders {
   explicit Folders(const Parts& parts) : parts_(parts) {}
 
   /// Whether the folder was there; makes it when not. While the New Music Window is at work (`aktivniprozor`
-  /// 2) the journal is told first ("mkd"). Throws FileError.
+  /// 2) the journal is told first ("mkd"). The folder above must be there. Throws FileError.
   bool PostojiDir(TextView path);
   /// Makes the folder when it is missing; the journal is not told. Throws FileError.
   void EnsureFolder(TextView path);

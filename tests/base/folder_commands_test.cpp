@@ -294,6 +294,21 @@ TEST_F(FolderCommandsTest, DelOfAlbumsAsksAgainForFilesWithoutAFolder) {
   expectAtRest();
 }
 
+TEST_F(FolderCommandsTest, StopAmongTheFilesWithoutAFolderKeepsTheAlbums) {
+  show({u"R/A/own.mp3", u"R/A/One 2001/1.mp3"});
+  click(form3.List1, {u"R"});
+  click(form3.List3, {Text(base::withoutFolder), u"One 2001"});
+  answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
+  answer(u"Are you sure you want to DELETE selected file(s)?", u"Delete");
+  files.onOperation = [&] {
+    if (files.log.back().starts_with("move ")) table.Stop = true;
+  };
+  folderCommands.delAlbum();
+  EXPECT_EQ(trash.sent, std::vector<Text>{at(u"R/A/own.mp3")});
+  EXPECT_TRUE(there(u"R/A/One 2001/1.mp3"));
+  expectAtRest();
+}
+
 TEST_F(FolderCommandsTest, AFolderThatCannotBeReadEndsTheCommandWithAMessage) {
   show({u"rock/A/1.mp3"});
   click(form3.List1, {u"rock"});
