@@ -282,6 +282,7 @@ void NewMusicLists::albumsByFolder() {
 }
 
 void NewMusicLists::artistAdded(const Text& artist) {
+  if (quiet()) return;  // whoever changes many rows lists them anew
   for (int index = 0; index < form2_.List2.ListCount(); ++index)
     if (form2_.List2.List(index) == artist) return;
   form2_.List2.AddItem(artist);

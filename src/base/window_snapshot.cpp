@@ -125,9 +125,8 @@ void WindowSnapshot::restoreBase(const Sections& sections) {
   selectRows(form3.List2, sections[SelectedBase + 1]);
   selectRows(form3.List3, sections[SelectedBase + 2]);
   if (form3.List8.ListCount() == 0) {
-    const int before = std::exchange(parts_.table.puniliste, 0);
+    const list::LoudLists loud(parts_.table);
     parts_.base.List3Click();
-    parts_.table.puniliste = before;
   }
   selectRows(form3.List8, sections[SelectedBase + 3]);
 }

@@ -33,7 +33,7 @@ Replay::Inverse Replay::inverseOf(TextView kind) {
 
 void Replay::replayUndo(std::string_view stopKind) {
   undeleteFailed_ = false;
-  undeleted_ = {};
+  cameBack_ = {};
   if (!parts_.journal.exists()) return;
   parts_.data.beginChange();
   try {
@@ -96,8 +96,9 @@ UndoOutcome Replay::undoDelete(const Data& data) {
     return UndoOutcome::Done;
   }
   parts_.files.makeFolder(Text(core::paths::folderPart(deleted->path)));
-  undeleted_ = {deleted->path, deleted->path};
-  const MoveResult result = parts_.mover.bringBack(parts_.trash, inTrash, deleted->path, &undeleted_.got);
+  Text got;
+  const MoveResult result = parts_.mover.bringBack(parts_.trash, inTrash, deleted->path, &got);
+  cameBack_ = {deleted->path, std::move(got)};
   return result == MoveResult::Abort ? UndoOutcome::Abort : UndoOutcome::Done;
 }
 
@@ -112,9 +113,9 @@ UndoOutcome Replay::undoRemoval(const Data& data) {
   const auto row = parseRow(data.first);
   const auto snapshot = parseRowSnapshot(data.rest);
   if (!row || !snapshot) return UndoOutcome::Done;
-  const Undeleted undeleted = std::exchange(undeleted_, {});
-  const bool renamed = undeleted.wanted == snapshot->path;
-  parts_.rows.restoreRow(*row, *snapshot, renamed ? undeleted.got : snapshot->path);
+  const CameBack file = std::exchange(cameBack_, {});
+  const bool renamed = file.wanted == snapshot->path;
+  parts_.rows.restoreRow(*row, *snapshot, renamed ? file.got : snapshot->path);
   return UndoOutcome::Done;
 }
 
@@ -125,7 +126,10 @@ UndoOutcome Replay::undoMove(const Data& data) {
   // After an undo that was cut short the file may be back already.
   if (!parts_.files.fileExists(newPath) && parts_.files.fileExists(oldPath)) return UndoOutcome::Done;
   parts_.files.makeFolder(Text(core::paths::folderPart(oldPath)));
-  return parts_.mover.move(newPath, oldPath) == MoveResult::Abort ? UndoOutcome::Abort : UndoOutcome::Done;
+  Text got;
+  const MoveResult result = parts_.mover.move(newPath, oldPath, &got);
+  cameBack_ = {oldPath, std::move(got)};
+  return result == MoveResult::Abort ? UndoOutcome::Abort : UndoOutcome::Done;
 }
 
 UndoOutcome Replay::undoMadeFolder(const Data& data) {

@@ -79,8 +79,9 @@ class Replay {
   UndoOutcome restoreDup(const Data& data);
   void sayNotInTrash(const Text& path);
 
-  /// Where the file of the last "del" record came to lie: another name than its own when that was taken.
-  struct Undeleted {
+  /// Where the file of the last "del" or "mov" record came to lie: another name than its own when that was
+  /// taken, nowhere when it was passed over.
+  struct CameBack {
     Text wanted;
     Text got;
   };
@@ -88,7 +89,7 @@ class Replay {
   Parts parts_;
   bool undeleteFailed_ = false;
   Text lastDeleted_;
-  Undeleted undeleted_;
+  CameBack cameBack_;
 };
 
 /// Deletes an empty folder; one that holds anything goes to the trash as it is. Throws FileError.

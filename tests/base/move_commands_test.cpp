@@ -318,6 +318,31 @@ TEST_F(MoveCommandsTest, UndoAfterACrashGivesNoRowTwice) {
   EXPECT_EQ(TreeSnapshot::of(folder.path(u"new")), whole);
 }
 
+TEST_F(MoveCommandsTest, ABaseThatIsNotThereIsNotBegunAnew) {
+  fill();
+  click(form2.List1, {u"Rock"});
+  folder.removeAll(u"base");
+  dialogs.expectTitle(u"Move File", Answer::Abort);
+  moves.moveGenre();
+  EXPECT_FALSE(folder.exists(u"base"));
+  EXPECT_EQ(TreeSnapshot::of(folder.path(u"new")), whole);
+  EXPECT_EQ(kinds(), (Names{"st2", "biv"}));
+  expectTidy();
+}
+
+TEST_F(MoveCommandsTest, ASongWhoseOldNameIsTakenComesBackAsItself) {
+  fill();
+  remember();
+  click(form2.List1, {u"Jazz"});
+  moves.moveGenre();
+  folder.write(u"new/in/Beta - four.mp3", "another");
+  undo.undoLastOperation();
+  EXPECT_EQ(folder.read(u"new/in/Beta - four.mp3"), "another");
+  EXPECT_EQ(folder.read(u"new/in/Beta - four .mp3"), "in/Beta - four");
+  before[4] = folder.path(u"new/in/Beta - four .mp3");
+  EXPECT_EQ(paths(), before) << "the row tells of its own song, not of the other one";
+}
+
 TEST_F(MoveCommandsTest, StopEndsTheMoves) {
   fill();
   remember();
