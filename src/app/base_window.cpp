@@ -122,6 +122,7 @@ void BaseWindow::selectMainFolder() {
   parts_.settings.set(baseFolderKey, *folder);
   showRoot();
   parts_.lists.IzlistajBazu();
+  if (onRootChosen) onRootChosen();
 }
 
 void BaseWindow::toggleMenuAndButtons() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "app/shared_screen.h"
 #include "base/base_lists.h"
 #include "base/year_filter.h"
@@ -39,6 +41,8 @@ class BaseWindow {
   /// Takes that mark off without storing it.
   void switchOffOneClick();
 
+  /// Raised when another Music Base folder was chosen.
+  std::function<void()> onRootChosen;
   /// "Select main folder for Your Music Base".
   void selectMainFolder();
   /// "Show menu and buttons": shows them, or hides them.

@@ -1,5 +1,8 @@
 #include "app/enable_commands.h"
 
+#include <string>
+
+#include "app/guarded.h"
 #include "app/house.h"
 
 namespace velmora::app {
@@ -40,6 +43,14 @@ void enableCommands(House& house) {
   tools.renameFiles.setEnabled(songs);
   tools.deleteFiles.setEnabled(form1.List4.SelCount() > 0);
   enableBaseCommands(house);
+}
+
+void showUndoState(House& house) {
+  guarded([&house] {
+    const std::string top = house.journal.lastUndoMarker();
+    house.repair.undoCommands.showState(top);
+    house.baseRoom.undo.showState(top);
+  });
 }
 
 }  // namespace velmora::app

@@ -9,5 +9,8 @@ struct House;
 void enableCommands(House& house);
 /// The part of it that concerns the Music Base Window and the New Music Window, for their list clicks.
 void enableBaseCommands(House& house);
+/// The undo buttons of all windows follow what stands on top of the journal. Called at the start and after
+/// whatever takes records away; what adds them raises onMarker.
+void showUndoState(House& house);
 
 }  // namespace velmora::app

@@ -1,5 +1,7 @@
 #include "app/front_window.h"
 
+#include <utility>
+
 namespace velmora::app {
 
 namespace {
@@ -20,12 +22,23 @@ void FrontWindow::showBase() {
 }
 
 void FrontWindow::newMusicActivated() {
-  if (parts_.windows.form2.visible()) parts_.table.aktivniprozor = newMusic;
+  activated(newMusic);
 }
 
 void FrontWindow::baseActivated() {
+  activated(base);
+}
+
+void FrontWindow::activated(int window) {
+  activated_ = window;
+  if (!parts_.work.commandRunning()) settle();
+}
+
+void FrontWindow::settle() {
+  const int window = std::exchange(activated_, 0);
   // The notice may arrive after the window was left again.
-  if (parts_.windows.form3.visible()) parts_.table.aktivniprozor = base;
+  if (window == newMusic && parts_.windows.form2.visible()) parts_.table.aktivniprozor = newMusic;
+  if (window == base && parts_.windows.form3.visible()) parts_.table.aktivniprozor = base;
 }
 
 void FrontWindow::showProcessing() {
@@ -41,7 +54,7 @@ void FrontWindow::showProcessing() {
 void FrontWindow::assort() {
   const bool hasRows = parts_.table.brojfajlova() >= 1;
   showBase();
-  if (!hasRows) return;
+  if (!hasRows) return parts_.newMusic.forget();
   parts_.table.sourceprozor = 0;
   parts_.newMusic.toggle();
   if (parts_.settings.get(u"DirZaBazu").empty()) offerBaseFolder();

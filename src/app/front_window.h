@@ -3,6 +3,7 @@
 #include "app/base_window.h"
 #include "app/events.h"
 #include "app/new_music_window.h"
+#include "app/work.h"
 #include "core/settings.h"
 #include "core/track_table.h"
 #include "list/closing_step.h"
@@ -23,6 +24,7 @@ class FrontWindow {
     BaseWindow& base;
     NewMusicWindow& newMusic;
     Events& events;
+    const Work& work;
   };
   explicit FrontWindow(const Parts& parts) : parts_(parts) {}
 
@@ -35,15 +37,19 @@ class FrontWindow {
   /// The user closes the Processing Window: it only hides, and the Music Base Window comes up. A review that
   /// runs is ended first, if the user agrees.
   void closeProcessing();
-  /// The Music Base Window came to the front.
+  // The window system told that the Music Base Window or the New Music Window came to the front. While a
+  // command runs `aktivniprozor` is the command's own, and the notice counts when it is done.
   void baseActivated();
-  /// The New Music Window came to the front.
   void newMusicActivated();
+  /// A command is done.
+  void settle();
 
  private:
+  void activated(int window);
   void offerBaseFolder();
 
   Parts parts_;
+  int activated_ = 0;  // the window of the last notice, until it counts
 };
 
 }  // namespace velmora::app

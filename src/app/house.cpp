@@ -132,6 +132,7 @@ House::House(const Services& given, Folders where)
              .closing = closing,
              .base = base,
              .newMusic = newMusic,
-             .events = events}) {}
+             .events = events,
+             .work = work}) {}
 
 }  // namespace velmora::app

@@ -34,6 +34,7 @@ void NewMusicWindow::open() {
 void NewMusicWindow::load() {
   core::TrackTable& table = parts_.table;
   table.aktivniprozor = baseInFront;
+  parts_.summary.forget();
   parts_.lists.listVolumes();
   guarded([&] {
     const list::QuietLists quiet(table);
@@ -42,7 +43,6 @@ void NewMusicWindow::load() {
   });
   table.puniliste = 0;
   parts_.windows.form2.Combo1.setRows(tags::genreRows());
-  parts_.summary.forget();
   guarded([&] { parts_.summary.moze(); });
   guarded([&] { parts_.undo.showState(); });
   // While it is open a click in the base must not start a song, and all is played in the preview player.
@@ -79,6 +79,7 @@ void NewMusicWindow::unload() {
 }
 
 void NewMusicWindow::forget() {
+  parts_.table.sourceprozor = 0;
   leave();
   parts_.lists.IzlistajVrste();
 }

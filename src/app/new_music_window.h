@@ -37,7 +37,7 @@ class NewMusicWindow {
   void stepAside();
   /// The program ends: what it showed is stored, and it comes up again at the next start.
   void unload();
-  /// New List: there is nothing to show any more.
+  /// There is nothing to show any more: it is as if it had been closed.
   void forget();
 
  private:

@@ -93,8 +93,7 @@ void startInBaseWindow(House& house) {
 }
 
 void finishForm1(House& house) {
-  guarded([&] { house.repair.undoCommands.showState(); });
-  guarded([&] { house.baseRoom.undo.showState(); });
+  showUndoState(house);
   house.table.puniliste = 0;
   house.windows.form1.tags.genre.setRows(tags::genreRows());
   enableCommands(house);

@@ -16,6 +16,7 @@ namespace {
 void commandDone(House& house) {
   if (house.progress.shown()) house.closing.moze();
   house.modal.holdOthers();
+  house.front.settle();
   enableCommands(house);
 }
 

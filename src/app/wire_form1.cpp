@@ -65,7 +65,7 @@ void wireForm1(House& house) {
   house.busyFile.givenUp = [&house] { return (house.progress.shown() && house.table.Stop) || house.ending; };
   house.listMaker.onCleared = [&house] {
     house.player.close();
-    house.repair.undoCommands.showState();
+    showUndoState(house);
     house.newMusic.forget();
   };
   form1.folderTree.onDropFolders = [&house, &form1](const std::vector<Text>& folders) {

@@ -54,7 +54,10 @@ void wireMoves(House& house) {
   form2.nameArtist.onClick = command(house, form2, [&room] { room.names.nameArtist(); });
   form2.nameAlbum.onClick = command(house, form2, [&room] { room.names.nameAlbum(); });
   form2.scanTags.onClick = command(house, form2, [&room] { room.tagScan.scan(); });
-  form2.undoLastOperation.onClick = command(house, form2, [&room] { room.undo.undoLastOperation(); });
+  form2.undoLastOperation.onClick = command(house, form2, [&house, &room] {
+    room.undo.undoLastOperation();
+    showUndoState(house);
+  });
 
   // A column that is dragged onto the same column of the base is moved there. The albums by folder go by the
   // same word as those by tag.

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "app/enable_commands.h"
 #include "app/house.h"
 #include "app/shut_down.h"
@@ -14,6 +16,9 @@ void wireMenus(House& house) {
   form3.showProcessingWindow.onClick = command(house, form3, [&house] { house.front.showProcessing(); });
   form3.showNewMusic.onClick = command(house, form3, [&house] { house.newMusic.toggle(); });
   form3.selectMainFolder.onClick = command(house, form3, [&house] { house.base.selectMainFolder(); });
+  house.base.onRootChosen = [&house] {
+    if (house.windows.form2.visible()) house.baseRoom.summary.moze();
+  };
   form3.showMenuAndButtons.onClick = [&house] { house.base.toggleMenuAndButtons(); };
   form3.about.onClick = opens(house, form3, house.windows.frmAbout);
   form3.showTips.onClick = [&house] {
@@ -54,14 +59,24 @@ void wireColumns(House& house) {
   lists.onPlay = [&house](const Text& path) { house.player.playFile(path); };
 }
 
+/// A command of the Music Base Window itself. The notice that it came to the front may be late, and the
+/// folders that a command of its own makes must not stand in the journal.
+std::function<void()> baseCommand(House& house, std::function<void()> run) {
+  return command(house, house.windows.form3, [&house, run = std::move(run)] {
+    house.front.baseActivated();
+    house.front.settle();
+    run();
+  });
+}
+
 void wireFolderCommands(House& house) {
   ui::Form3& form3 = house.windows.form3;
   BaseRoom& room = house.baseRoom;
-  form3.genres.newFolder.onClick = command(house, form3, [&room] { room.newFolders.newGenre(); });
-  form3.artists.newFolder.onClick = command(house, form3, [&room] { room.newFolders.newArtist(); });
-  form3.albums.newFolder.onClick = command(house, form3, [&room] { room.newFolders.newAlbum(); });
-  const auto folders = [&house, &form3, &room](ui::Button& button, void (base::FolderCommands::*run)()) {
-    button.onClick = command(house, form3, [&room, run] { (room.folderCommands.*run)(); });
+  form3.genres.newFolder.onClick = baseCommand(house, [&room] { room.newFolders.newGenre(); });
+  form3.artists.newFolder.onClick = baseCommand(house, [&room] { room.newFolders.newArtist(); });
+  form3.albums.newFolder.onClick = baseCommand(house, [&room] { room.newFolders.newAlbum(); });
+  const auto folders = [&house, &room](ui::Button& button, void (base::FolderCommands::*run)()) {
+    button.onClick = baseCommand(house, [&room, run] { (room.folderCommands.*run)(); });
   };
   folders(form3.genres.ren, &base::FolderCommands::renGenre);
   folders(form3.artists.ren, &base::FolderCommands::renArtist);
@@ -69,8 +84,8 @@ void wireFolderCommands(House& house) {
   folders(form3.genres.del, &base::FolderCommands::delGenre);
   folders(form3.artists.del, &base::FolderCommands::delArtist);
   folders(form3.albums.del, &base::FolderCommands::delAlbum);
-  form3.titles.ren.onClick = command(house, form3, [&room] { room.fileCommands.ren(); });
-  form3.titles.del.onClick = command(house, form3, [&room] { room.fileCommands.del(); });
+  form3.titles.ren.onClick = baseCommand(house, [&room] { room.fileCommands.ren(); });
+  form3.titles.del.onClick = baseCommand(house, [&room] { room.fileCommands.del(); });
   room.newFolders.onSelectRoot = [&house] { house.base.selectMainFolder(); };
 }
 

@@ -47,17 +47,21 @@ void wireUndo(House& house) {
   RepairRoom& room = house.repair;
   tools.undoLastOperation.onClick = command(house, form1, [&house, &room, &form1] {
     room.undoCommands.undoLastOperation();
+    showUndoState(house);
     // What was selected before the command is selected again, and the panel shows what is selected.
     if (!form1.List4.Selected(house.table.currentRow - 1)) raise(form1.List4.onClick);
   });
   tools.undo.onClick = [&tools] { tools.undoLastOperation.click(); };
-  tools.restoreAllChanges.onClick = command(house, form1, [&room] { room.undoCommands.restoreAllChanges(); });
+  tools.restoreAllChanges.onClick = command(house, form1, [&house, &room] {
+    room.undoCommands.restoreAllChanges();
+    showUndoState(house);
+  });
   tools.undoName.onClick = command(house, form1, [&room] {
     if (!room.undoName.undoEdit()) room.undoName.undoName();
   });
   house.journal.onMarker = [&house, &room](std::string_view kind) {
     room.undoCommands.showState(kind);
-    house.windows.form2.undoLastOperation.setEnabled(kind == "st2");
+    house.baseRoom.undo.showState(kind);
   };
 }
 

@@ -34,8 +34,4 @@ void NewMusicUndo::undoLastOperation() {
   showState();
 }
 
-void NewMusicUndo::showState() {
-  parts_.windows.form2.undoLastOperation.setEnabled(parts_.journal.lastUndoMarker() == "st2");
-}
-
 }  // namespace velmora::base

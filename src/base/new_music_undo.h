@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "base/move_summary.h"
 #include "base/window_snapshot.h"
@@ -32,7 +33,9 @@ class NewMusicUndo {
 
   void undoLastOperation();
   /// Enables the button by what stands on top of the journal.
-  void showState();
+  void showState() { showState(parts_.journal.lastUndoMarker()); }
+  /// The same for a journal whose topmost marker is known.
+  void showState(std::string_view top) { parts_.windows.form2.undoLastOperation.setEnabled(top == "st2"); }
   /// A replay came to the snapshot of both windows: it is put back when the replay is over.
   void windowState(const Text& snapshot) { reached_ = snapshot; }
 

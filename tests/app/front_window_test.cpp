@@ -40,6 +40,8 @@ TEST_F(FrontWindowTest, ProcessingWindowAndBackAgain) {
   EXPECT_TRUE(program.form3().visible());
   EXPECT_EQ(program.table().aktivniprozor, 3);
   EXPECT_FALSE(program.app().ended()) << "closing the Processing Window only hides it";
+  EXPECT_EQ(program.table().sourceprozor, 0) << "without rows there is nothing to come back to";
+  EXPECT_EQ(program.form3().showNewMusic.caption(), u"     Show New Music Window    ");
 }
 
 TEST_F(FrontWindowTest, AssortNeedsRowsAndOffersToChooseTheBase) {
@@ -53,6 +55,7 @@ TEST_F(FrontWindowTest, AssortNeedsRowsAndOffersToChooseTheBase) {
   EXPECT_EQ(program.settings.get(u"DirZaBazu"), program.musicFolder());
   EXPECT_EQ(program.table().dirzabazu, program.musicFolder());
   EXPECT_EQ(program.form3().rootLabel.text(), program.musicFolder());
+  EXPECT_NE(program.windows().form2.freeLabel.text(), u"") << "the room on the base that was just chosen";
 
   program.form3().showProcessingWindow.click();
   EXPECT_FALSE(program.windows().form2.visible());
