@@ -104,21 +104,42 @@ std::vector<Text> NewMusicRows::albums(const std::vector<GenreRow>& genres,
                                        const std::vector<Text>& artists) const {
   Distinct albums;
   for (const TextView special : {everySongs, withoutAlbumAndYear, TextView()}) albums.markSeen(special);
+  const GenrePlaces places(genres);
   for (const Text& artist : artists)
-    for (const GenreRow& genre : genres)
-      for (const int row : find(byArtist_, artist))
-        if (genre.takes(TagGenre(table_, row))) albums.add(TagAlbumYear(table_, row));
+    for (const int row : songs(places, {&artist, 1})) albums.add(TagAlbumYear(table_, row));
   return albums.take();
 }
 
 std::vector<int> NewMusicRows::songs(const std::vector<GenreRow>& genres,
                                      const std::vector<Text>& artists) const {
+  return songs(GenrePlaces(genres), artists);
+}
+
+std::vector<int> NewMusicRows::songs(const GenrePlaces& places, std::span<const Text> artists) const {
+  std::vector<std::pair<std::size_t, int>> found;  // place of the genre, row
+  for (const Text& artist : artists) {
+    for (const int row : find(byArtist_, artist)) {
+      for (const std::size_t place : places.every) found.emplace_back(place, row);
+      const auto own = places.byGenre.find(TagGenre(table_, row));
+      if (own != places.byGenre.end()) found.emplace_back(own->second, row);
+    }
+  }
+  std::ranges::stable_sort(found, {}, &std::pair<std::size_t, int>::first);
   std::vector<int> rows;
-  for (const GenreRow& genre : genres)
-    for (const Text& artist : artists)
-      for (const int row : find(byArtist_, artist))
-        if (genre.takes(TagGenre(table_, row))) rows.push_back(row);
+  rows.reserve(found.size());
+  for (const auto& [place, row] : found) rows.push_back(row);
   return rows;
+}
+
+/// The genres as chosen are distinct; the row that stands for everything is asked for by itself.
+NewMusicRows::GenrePlaces::GenrePlaces(const std::vector<GenreRow>& genres) {
+  for (std::size_t place = 0; place < genres.size(); ++place) {
+    const GenreRow& genre = genres[place];
+    if (genre.index == 0)
+      every.push_back(place);
+    else
+      byGenre.emplace(genre.index == 1 ? TextView() : TextView(genre.text), place);
+  }
 }
 
 std::vector<Text> NewMusicRows::folders(const std::vector<int>& rows) const {

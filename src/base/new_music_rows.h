@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -22,10 +24,6 @@ inline constexpr int firstFolder = 1;  ///< index of the first real folder in Li
 struct GenreRow {
   int index = 0;
   Text text;
-  /// Whether a file of this genre ("" for none) belongs to the row.
-  bool takes(TextView genre) const {
-    return index == 0 || (index == 1 ? genre.empty() : genre == TextView(text));
-  }
 };
 
 /// Genres of the working list, in the order of their first file. `eachRow` hears of each row.
@@ -58,6 +56,13 @@ class NewMusicRows {
  private:
   using RowsByText = std::unordered_map<TextView, std::vector<int>>;
   static const std::vector<int>& find(const RowsByText& map, TextView key);
+  /// Where the chosen genres stand among each other, so that a file is compared with none of them.
+  struct GenrePlaces {
+    explicit GenrePlaces(const std::vector<GenreRow>& genres);
+    std::vector<std::size_t> every;                     // of the row that stands for all files
+    std::unordered_map<TextView, std::size_t> byGenre;  // "" for the row of files without a genre
+  };
+  std::vector<int> songs(const GenrePlaces& places, std::span<const Text> artists) const;
 
   const core::TrackTable& table_;
   RowsByText byArtist_;
