@@ -37,7 +37,8 @@ void SharedScreen::share() {
 void SharedScreen::giveBack() {
   if (!shared_) return;
   shared_ = false;
-  ui::Placement place = base_.placement();
+  // A maximised window has not shown its own width; any other may have been moved aside meanwhile.
+  ui::Placement place = state_ == ui::WindowState::Maximised ? placement_ : base_.placement();
   place.top = placement_.top;
   place.height = placement_.height;
   base_.setPlacement(place);

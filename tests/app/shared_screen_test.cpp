@@ -59,6 +59,7 @@ TEST_F(SharedScreenTest, ALowWindowMovesUpAndATallOneBecomesLower) {
 }
 
 TEST_F(SharedScreenTest, AMaximisedWindowIsMaximisedAgainAfterwards) {
+  base.setPlacement({900, 400, 15000, 5000});
   base.setState(ui::WindowState::Maximised);
   screen.share();
   EXPECT_EQ(base.state(), ui::WindowState::Normal);
@@ -67,6 +68,7 @@ TEST_F(SharedScreenTest, AMaximisedWindowIsMaximisedAgainAfterwards) {
   expectOneAboveTheOther();
   screen.giveBack();
   EXPECT_EQ(base.state(), ui::WindowState::Maximised);
+  EXPECT_EQ(base.placement(), (ui::Placement{900, 400, 15000, 5000}));
 }
 
 TEST_F(SharedScreenTest, AScreenThatIsNotKnownLeavesBothToTheView) {
