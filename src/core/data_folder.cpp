@@ -63,10 +63,12 @@ bool endsWithTail(const TrackTable& table) {
 }
 
 /// The working list that a stored count stands for. A count that the rows cannot bear comes from a damaged
-/// file; then every row is taken as the user's own save those of the Music Base, which no batch may touch.
-int workingRows(const TrackTable& table, int stored) {
-  if (stored <= table.rows()) return std::max(stored, 0);
-  return endsWithTail(table) ? table.rows() - static_cast<int>(table.bazaniz.size()) : table.rows();
+/// file, and one that was stored in a change that did not end may be of other rows; then every row is taken
+/// as the user's own save those of the Music Base, which no batch may touch.
+int workingRows(const TrackTable& table, int stored, bool changing) {
+  const bool tailKnown = endsWithTail(table);
+  if (stored <= table.rows() && !(changing && tailKnown)) return std::max(stored, 0);
+  return tailKnown ? table.rows() - static_cast<int>(table.bazaniz.size()) : table.rows();
 }
 
 }  // namespace
@@ -242,7 +244,7 @@ void DataFolder::readTags(TrackTable& table) const {
     takeColumn(table, column, untrue ? std::vector<Element>() : readColumn(fileOf(column)));
   }
   table.brojbaza = static_cast<int>(table.bazepesama.size());
-  table.setBrojfajlova(workingRows(table, intValue(settings_.get(u"ghb"))));
+  table.setBrojfajlova(workingRows(table, intValue(settings_.get(u"ghb")), changing));
 }
 
 }  // namespace velmora::core
