@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 #include "core/text.h"
+#include "tests/support/base_house.h"
 #include "tests/support/repair_bench.h"
 
 namespace velmora {
@@ -23,9 +24,9 @@ using std::chrono::microseconds;
 using std::chrono::steady_clock;
 
 /// VELMORA_KILLS asks for more kills of each command than the usual few.
-int kills() {
+int kills(int usual) {
   const char* asked = std::getenv("VELMORA_KILLS");
-  return asked ? std::atoi(asked) : 10;
+  return asked ? std::atoi(asked) : usual;
 }
 
 /// One run of the program with songs that can be told apart by their audio.
@@ -104,6 +105,32 @@ class Victim : public test::RepairHouse {
 
 using Command = void (Victim::*)();
 
+/// New music on another volume than the base.
+class BaseVictim : public test::BaseHouse {
+ public:
+  BaseVictim() : BaseHouse(true) { songFrames = 200; }
+  void start() {
+    program.dialogs.otherwise = [](platform::Buttons) { return platform::Answer::Ok; };
+    BaseHouse::start();
+  }
+  void moveGenres() {
+    form2().List1.select({2, 3}, 3);
+    pressInNewMusic(form2().moveGenre);
+  }
+  /// From the name that the genre bears now, which may be that of a holding folder.
+  void respellGenre() {
+    for (const TextView name : {u"Pop", u"POP733727sdfs535"}) click(form3().List1, name);
+    form3().Combo1.setText(u"POP");
+    pressInBase(form3().genres.ren);
+  }
+  void mergeArtists() {
+    click(form3().List1, u"Pop");
+    form3().List2.select({0, form3().List2.ListCount() - 1}, 0);
+    form3().Text2.setText(u"Lumo");
+    pressInBase(form3().artists.ren);
+  }
+};
+
 struct Life {
   microseconds length;
   bool cutShort;
@@ -111,7 +138,8 @@ struct Life {
 
 /// Runs a command of the program in a process of its own and kills that `delay` after its beginning; without
 /// a delay it may come to its end.
-Life runAndKill(Victim& victim, Command command, std::optional<microseconds> delay) {
+template <typename Program>
+Life runAndKill(Program& victim, void (Program::*command)(), std::optional<microseconds> delay) {
   int ready[2];
   EXPECT_EQ(::pipe(ready), 0);
   const pid_t child = ::fork();
@@ -152,7 +180,7 @@ class Kill : public testing::Test {
     rehearse(before, command);
     std::mt19937 random(7);
     int cutShort = 0;
-    for (int i = 0; i < kills() && !HasFailure(); ++i) {
+    for (int i = 0; i < kills(10) && !HasFailure(); ++i) {
       Victim victim;
       victim.start();
       namesBefore_ = victim.songNames();
@@ -221,6 +249,119 @@ TEST_F(Kill, UndoIsBroughtToItsEndByTheNextOne) {
     EXPECT_EQ(victim.songNames(), namesBefore_);
     EXPECT_EQ(victim.songTags(), tagsBefore_);
     EXPECT_EQ(listedIn(victim), namesIn(victim));
+  });
+}
+
+class BaseKill : public testing::Test {
+ protected:
+  using Places = test::BaseHouse::Places;
+  using Step = void (BaseVictim::*)();
+
+  /// Kills the command again and again; `check` sees the program started afresh after each.
+  void torment(Step before, Step command, const std::function<void(BaseVictim&)>& check) {
+    const auto [operations, lifetime] = rehearse(before, command);
+    std::mt19937 random(7);
+    int cutShort = 0;
+    for (int i = 0; i < kills(6) && !HasFailure(); ++i) {
+      BaseVictim victim;
+      prepare(victim, before);
+      const Places atStart = victim.places();
+      const auto moment = static_cast<unsigned>(random());
+      SCOPED_TRACE("kill " + std::to_string(i) + " at " + std::to_string(moment));
+      // Just ahead of an operation, all over the command, or at any time, when one may be under way.
+      std::optional<microseconds> delay;
+      if (i % 2 == 0)
+        killAhead(victim, static_cast<unsigned>(i) * operations / static_cast<unsigned>(kills(6)));
+      else
+        delay = microseconds(moment % static_cast<unsigned>(lifetime.count()));
+      cutShort += runAndKill(victim, command, delay).cutShort;
+      victim.program.faults.onOperation = nullptr;
+      expectWhole(victim.places(), atStart);
+      victim.program.forget();
+      victim.program.start();
+      EXPECT_TRUE(victim.form3().visible());
+      victim.form3().showNewMusic.click();
+      victim.expectAtRest();
+      check(victim);
+    }
+    RecordProperty("cut short", cutShort);
+  }
+  /// What the command makes of the places, how many operations that takes, and how long.
+  std::pair<unsigned, microseconds> rehearse(Step before, Step command) {
+    BaseVictim victim;
+    prepare(victim, before);
+    const int first = victim.program.faults.operations();
+    const auto began = steady_clock::now();
+    (victim.*command)();
+    const auto length = std::chrono::duration_cast<microseconds>(steady_clock::now() - began);
+    after_ = victim.places();
+    return {static_cast<unsigned>(victim.program.faults.operations() - first), length};
+  }
+  static void killAhead(BaseVictim& victim, unsigned operation) {
+    victim.program.faults.onOperation = [left = operation]() mutable {
+      if (left-- == 0) ::raise(SIGKILL);
+    };
+  }
+  void prepare(BaseVictim& victim, Step before) {
+    victim.start();
+    before_ = victim.places();
+    if (before) (victim.*before)();
+  }
+  /// Each file lies at its old place, its new one, or on the way in a holding folder.
+  void expectWhole(const Places& left, const Places& atStart) const {
+    for (const auto& [content, from] : atStart) {
+      ASSERT_TRUE(left.contains(content)) << "lost: " << *from.begin();
+      for (const std::string& place : left.at(content))
+        EXPECT_TRUE(from.contains(place) || after_.at(content).contains(place) ||
+                    place.find("733727sdfs535") != std::string::npos)
+            << *from.begin() << " is now " << place;
+    }
+  }
+  /// All is as before, save the files that were just on their way.
+  void expectBack(BaseVictim& victim, int onTheirWay) {
+    const Places now = victim.places();
+    int differ = 0;
+    for (const auto& [content, where] : before_) {
+      ASSERT_TRUE(now.contains(content)) << "lost: " << *where.begin();
+      differ += now.at(content) != where;
+    }
+    EXPECT_LE(differ, onTheirWay);
+    std::set<Text> listed;
+    const core::TrackTable& table = victim.program.table();
+    for (int row = 1; row <= table.brojfajlova(); ++row)
+      EXPECT_TRUE(listed.insert(table.path(row)).second)
+          << "twice in the list: " << core::toBytes(table.path(row));
+    EXPECT_EQ(listed.size(), 10);
+  }
+
+  Places before_, after_;
+};
+
+TEST_F(BaseKill, AMoveAcrossVolumesLosesNoSongAndIsTakenBack) {
+  torment(nullptr, &BaseVictim::moveGenres, [this](BaseVictim& victim) {
+    victim.undoAll();
+    expectBack(victim, 1);
+  });
+}
+
+TEST_F(BaseKill, UndoOfAMoveIsBroughtToItsEndByTheNextOne) {
+  torment(&BaseVictim::moveGenres, &BaseVictim::undoAll, [this](BaseVictim& victim) {
+    victim.undoAll();
+    expectBack(victim, 1);
+  });
+}
+
+TEST_F(BaseKill, ARenameOfCapitalsIsBroughtToItsEndFromTheHoldingFolder) {
+  torment(nullptr, &BaseVictim::respellGenre, [this](BaseVictim& victim) {
+    victim.respellGenre();
+    EXPECT_TRUE(victim.places() == after_);
+  });
+}
+
+TEST_F(BaseKill, AMergeOfArtistsIsBroughtToItsEndByTheNextOne) {
+  torment(nullptr, &BaseVictim::mergeArtists, [this](BaseVictim& victim) {
+    victim.mergeArtists();
+    EXPECT_TRUE(victim.places() == after_);
   });
 }
 

@@ -1,15 +1,10 @@
 // A long walk of random commands, and the whole way back.
 
-#include <algorithm>
-#include <cstdlib>
-#include <numeric>
-#include <random>
 #include <set>
 
 #include "core/text.h"
-#include "review/undo_record.h"
-#include "tags/tag_cache.h"
 #include "tests/support/repair_bench.h"
+#include "tests/support/walk.h"
 
 namespace velmora {
 namespace {
@@ -120,9 +115,8 @@ class ThereAndBack : public test::RepairBench, public testing::WithParamInterfac
     const std::vector<Text> texts = {
         u"plain", u"a",       u"Arvola", u"arvola - harbour", u"A?B",       u"", u"PLAIN", u"-",
         u"12 x",  u"Harbour", u"e",      u"two  blanks ",     u"Kora: Rain"};
-    return texts[static_cast<std::size_t>(random(static_cast<int>(texts.size())))];
+    return random.oneOf(texts);
   }
-  int random(int below) { return static_cast<int>(random_() % static_cast<unsigned>(std::max(below, 1))); }
 
   /// What must be the same again: the rows in their order, and the texts of each file's tags.
   using Rows = std::vector<std::string>;
@@ -137,49 +131,15 @@ class ThereAndBack : public test::RepairBench, public testing::WithParamInterfac
     }
     return all;
   }
-  /// Every column is as in a program that adds the same folder for the first time.
-  void expectAsLoadedAfresh() {
-    test::HeadlessVelmora fresh;
-    fresh.startInProcessingWindow();
-    fresh.addFolder(program.folder.path(u"music/in"));
-    EXPECT_EQ(contentOf(program), contentOf(fresh));
-    EXPECT_EQ(artistsOf(program.table()), artistsOf(fresh.table()));
-  }
-  /// Row by row, since a folder may tell its files in another order than before.
-  static std::set<std::string> contentOf(test::HeadlessVelmora& of) {
-    std::set<std::string> all;
-    tags::TagCache cache(of.table(), of.files);
-    for (int row = 1; row <= of.table().rows(); ++row) {
-      EXPECT_TRUE(cache.read(of.table().path(row), row));
-      const core::Track& track = of.table().track(row);
-      std::string line;
-      for (const core::Column column :
-           {&core::Track::nizdes, &core::Track::crtapos, &core::Track::pevac, &core::Track::pesma})
-        line += core::toBytes((track.*column).text()) + '|';
-      const auto add = [&](bool has, std::size_t from) {
-        for (std::size_t i = from; i < from + 6; ++i)
-          line += has ? core::toBytes((track.*review::snapshotColumns()[i]).text()) + '|' : "none|";
-      };
-      add(track.imaid3v1.isTrue(), 0);
-      add(track.imaid3v2.isTrue(), 6);
-      all.insert(line);
-    }
-    return all;
-  }
-  static std::vector<Text> artistsOf(const core::TrackTable& table) {
-    std::vector<Text> artists = table.autori;
-    std::ranges::sort(artists);
-    return artists;
-  }
 
-  std::mt19937 random_{GetParam()};
+  test::Dice random{GetParam()};
 };
 
 TEST_P(ThereAndBack, EveryStepOfALongWalkIsTakenBack) {
   makeCollection();
   const Rows before = rows();
   const std::vector<std::string> namesBefore = names();
-  const std::vector<Text> artistsBefore = artistsOf(program.table());
+  const std::vector<Text> artistsBefore = test::artistsOf(program.table());
   const double bytesBefore = program.table().velicinasfiles;
   const Bytes music = test::mpegFrames();
 
@@ -197,8 +157,8 @@ TEST_P(ThereAndBack, EveryStepOfALongWalkIsTakenBack) {
 
   EXPECT_EQ(names(), namesBefore);
   EXPECT_EQ(rows(), before);
-  EXPECT_EQ(artistsOf(program.table()), artistsBefore);
-  expectAsLoadedAfresh();
+  EXPECT_EQ(test::artistsOf(program.table()), artistsBefore);
+  test::expectAsLoadedAfresh(program, program.folder.path(u"music/in"));
   // A tag that was made cost the last byte of the music or left padding ahead of it; no more than that.
   for (const std::string& name : namesBefore)
     EXPECT_NE(program.files.readAll(pathOf(core::fromBytes(name))).find(music.substr(0, music.size() - 400)),
@@ -208,15 +168,7 @@ TEST_P(ThereAndBack, EveryStepOfALongWalkIsTakenBack) {
   EXPECT_EQ(rows(), before) << "and so after a new start";
 }
 
-/// VELMORA_WALKS asks for more walks than the usual two.
-std::vector<unsigned> seeds() {
-  const char* asked = std::getenv("VELMORA_WALKS");
-  std::vector<unsigned> all(asked ? std::strtoul(asked, nullptr, 10) : 2);
-  std::iota(all.begin(), all.end(), 1U);
-  return all;
-}
-
-INSTANTIATE_TEST_SUITE_P(Seeds, ThereAndBack, testing::ValuesIn(seeds()));
+INSTANTIATE_TEST_SUITE_P(Seeds, ThereAndBack, testing::ValuesIn(test::walkSeeds(2)));
 
 }  // namespace
 }  // namespace velmora
