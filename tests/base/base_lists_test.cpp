@@ -182,7 +182,7 @@ TEST_F(BaseListsTest, PositionsComeBack) {
   form3.List3.onMouseUp();
   click(form3.List8, {u"z"});
   form3.List8.doubleClick();
-  EXPECT_EQ(played, std::vector<Text>{at(u"R/A/Two 2002/A - z.mp3")});
+  EXPECT_EQ(media.opened, std::vector<Text>{at(u"R/A/Two 2002/A - z.mp3")});
   EXPECT_EQ(folder.read(u"LastPosition.dat"), "\"R\\A\"\r\n\"Aalbum=\\Two 2002\"\r\n\"A\\z\"\r\n");
 
   click(form3.List1, {u"S"});
@@ -192,7 +192,7 @@ TEST_F(BaseListsTest, PositionsComeBack) {
   EXPECT_EQ(form3.List8.List(form3.List8.ListIndex()), u"z");
   EXPECT_EQ(form3.List8.SelCount(), 0) << "marked, but nothing acts on it";
   EXPECT_EQ(form3.Text4.text(), u"z");
-  EXPECT_EQ(played.size(), 1U);
+  EXPECT_EQ(media.opened.size(), 1U);
 
   click(form3.List3, {u"One 2001", u"Two 2002"});
   form3.List3.onMouseUp();
@@ -203,12 +203,12 @@ TEST_F(BaseListsTest, PlayWithOneClickPlaysWhatIsClicked) {
   show({u"R/A/One 2001/A - x.mp3", u"R/A/One 2001/A - y.mp3", u"R/A/own.mp3"});
   form3.plfr.setChecked(true);
   click(form3.List1, {u"R"});
-  EXPECT_EQ(played, std::vector<Text>{at(u"R/A/own.mp3")}) << "the first of the list, once";
+  EXPECT_EQ(media.opened, std::vector<Text>{at(u"R/A/own.mp3")}) << "the first of the list, once";
   click(form3.List8, {u"y"});
-  EXPECT_EQ(played.back(), at(u"R/A/One 2001/A - y.mp3"));
+  EXPECT_EQ(media.opened.back(), at(u"R/A/One 2001/A - y.mp3"));
   EXPECT_FALSE(folder.read(u"LastPosition.dat").find("y") != Bytes::npos) << "a click is no double click";
   lists.selectTitle(1);
-  EXPECT_EQ(played.size(), 2U);
+  EXPECT_EQ(media.opened.size(), 2U);
 }
 
 TEST_F(BaseListsTest, AClickOnADeselectedAlbumKeepsTheTitles) {

@@ -81,7 +81,7 @@ TEST_F(FoldersTest, LinksAreNotFollowedInCirclesNorRemoved) {
   folders.RemoveEmptyTree(at(u"link"));
   EXPECT_TRUE(there(u"a/b/back"));
   EXPECT_TRUE(there(u"link/song.mp3"));
-  EXPECT_EQ(trashFiles.CollectDelete(at(u"a")), std::vector<Text>{});
+  EXPECT_EQ(room.trash.CollectDelete(at(u"a")), std::vector<Text>{});
 }
 
 struct NewFoldersTest : test::BaseWorld {
@@ -135,13 +135,15 @@ TEST_F(NewFoldersTest, TheNewMusicWindowIsNotAsked) {
 TEST_F(NewFoldersTest, ABaseWithoutARootAsksForOneFirst) {
   settings.set(u"DirZaBazu", u"");
   lists.readRoot();
-  newFolders.newGenre();
-  table.aktivniprozor = 2;
   form3.Combo1.setText(u"New");
-  newFolders.newGenre();
+  dialogs.expectFolder(u"Select main folder for Your Music Base", std::nullopt);
+  for (const int window : {3, 2}) {
+    table.aktivniprozor = window;
+    newFolders.newGenre();
+  }
   EXPECT_FALSE(disk.folderExists(u"New"));
   table.aktivniprozor = 3;
-  newFolders.onSelectRoot = [this] { settings.set(u"DirZaBazu", folder.path(u"base")); };
+  dialogs.expectFolder(u"Select main folder for Your Music Base", folder.path(u"base"));
   typed(u"Rock");
   newFolders.newGenre();
   EXPECT_TRUE(there(u"Rock"));

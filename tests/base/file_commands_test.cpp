@@ -18,20 +18,20 @@ struct FileCommandsTest : test::BaseWorld {
     click(form3.List8, {title});
     form3.Text4.setText(name);
     answer(u"Are you sure you want to RENAME selected file?", u"Rename");
-    fileCommands.ren();
+    room.fileCommands.ren();
   }
   void del(Answer given = Answer::Ok) {
     answer(u"Are you sure you want to DELETE selected file(s)?", u"Delete", given);
-    fileCommands.del();
+    room.fileCommands.del();
   }
 };
 
 TEST_F(FileCommandsTest, RenKeepsTheArtistAndTheExtension) {
-  player.held = at(u"R/A/Al 2001/A - one.mp3");
+  media.setFile(at(u"R/A/Al 2001/A - one.mp3"));
   ren(u"one", u"Uno: \"1/2\"");
   EXPECT_EQ(content(u"R/A/Al 2001/A - Uno   1 2 .mp3"), "R/A/Al 2001/A - one.mp3");
   EXPECT_EQ(chosen(form3.List8), Names{"Uno   1 2 "});
-  EXPECT_EQ(player.held, at(u"R/A/Al 2001/A - Uno   1 2 .mp3"));
+  EXPECT_EQ(media.file(), at(u"R/A/Al 2001/A - Uno   1 2 .mp3"));
   form3.showAutor.setChecked(true);
   lists.fillTitles();
   ren(u"A - two", u"B - deux");
@@ -51,7 +51,7 @@ TEST_F(FileCommandsTest, RenNeverOverwrites) {
   form3.Text4.setText(u"two");
   answer(u"Are you sure you want to RENAME selected file?", u"Rename");
   answer(u"Canot rename. File already exists", u"Rename");
-  fileCommands.ren();
+  room.fileCommands.ren();
   EXPECT_EQ(content(u"R/A/Al 2001/A - two.mp3"), "R/A/Al 2001/A - two.mp3");
   EXPECT_EQ(content(u"R/A/Al 2001/A - one.mp3"), "R/A/Al 2001/A - one.mp3");
 }
@@ -59,28 +59,28 @@ TEST_F(FileCommandsTest, RenNeverOverwrites) {
 TEST_F(FileCommandsTest, RenNeedsATitleANameAndAYes) {
   const test::TreeSnapshot before = snapshot();
   form3.Text4.setText(u"x");
-  fileCommands.ren();
-  fileCommands.del();
+  room.fileCommands.ren();
+  room.fileCommands.del();
   click(form3.List8, {u"one"});
   form3.Text4.setText(u" ? ");
   answer(u"There's no new name.", u"Rename");
-  fileCommands.ren();
+  room.fileCommands.ren();
   form3.Text4.setText(u"x");
   answer(u"Are you sure you want to RENAME selected file?", u"Rename", Answer::Cancel);
-  fileCommands.ren();
+  room.fileCommands.ren();
   del(Answer::Cancel);
   form3.List8.select({0}, 1);
-  fileCommands.ren();
+  room.fileCommands.ren();
   EXPECT_EQ(snapshot(), before) << "the row clicked last is not selected";
 }
 
 TEST_F(FileCommandsTest, DelSendsTheSelectedFilesInReverseOrder) {
   click(form3.List8, {u"own", u"two"});
-  player.held = at(u"R/A/Al 2001/A - two.mp3");
+  media.setFile(at(u"R/A/Al 2001/A - two.mp3"));
   del();
   EXPECT_EQ(trash.sent, (std::vector<Text>{at(u"R/A/Al 2001/A - two.mp3"), at(u"R/A/A - own.mp3")}));
   EXPECT_EQ(rows(form3.List8), Names{"one"});
-  EXPECT_EQ(player.held, u"");
+  EXPECT_EQ(media.file(), u"");
   EXPECT_TRUE(there(u"R/A"));
   expectAtRest();
 }

@@ -18,19 +18,19 @@ struct FolderCommandsTest : test::BaseWorld {
     click(form3.List1, genres);
     form3.Combo1.setText(name);
     confirm(u"Are you sure you want to RENAME selected folder(s) ?");
-    folderCommands.renGenre();
+    room.folderCommands.renGenre();
   }
   void renArtist(const std::vector<Text>& artists, const Text& name) {
     click(form3.List2, artists);
     form3.Text2.setText(name);
     confirm(u"Are you sure you want to RENAME selected folder(s)?");
-    folderCommands.renArtist();
+    room.folderCommands.renArtist();
   }
   void renAlbum(const std::vector<Text>& albums, const Text& name) {
     click(form3.List3, albums);
     form3.Text3.setText(name);
     confirm(u"Are you sure you want to RENAME selected folder(s)?");
-    folderCommands.renAlbum();
+    room.folderCommands.renAlbum();
   }
   /// The next Ren meets a file that has the name already.
   void expectClash(const Text& from, Answer given) { clashes.emplace_back(from, given); }
@@ -72,20 +72,20 @@ TEST_F(FolderCommandsTest, RenAsksAndNeedsAName) {
     form3.Combo1.setText(name);
     form3.Text2.setText(name);
     answer(u"There's no new name.", u"Rename");
-    folderCommands.renGenre();
+    room.folderCommands.renGenre();
     answer(u"There's no new name.", u"Rename");
-    folderCommands.renArtist();
+    room.folderCommands.renArtist();
     EXPECT_EQ(dialogs.lastIcon, platform::Icon::Exclamation);
   }
   form3.Text3.setText(u"..");
   answer(u"There's no new name.", u"Rename");
-  folderCommands.renAlbum();
+  room.folderCommands.renAlbum();
   form3.Combo1.setText(u"pop");
   answer(u"Are you sure you want to RENAME selected folder(s) ?", u"Rename", Answer::Cancel);
-  folderCommands.renGenre();
+  room.folderCommands.renGenre();
   form3.List1.clearSelection();
-  folderCommands.renGenre();
-  folderCommands.delGenre();
+  room.folderCommands.renGenre();
+  room.folderCommands.delGenre();
   EXPECT_EQ(snapshot(), before);
 }
 
@@ -181,7 +181,7 @@ TEST_F(FolderCommandsTest, ARowThatLeadsToAnUnselectedGenreIsLeftAlone) {
   click(form3.List1, {u"B1", u"C2"});
   form3.List2.select({0, 1}, 1);
   answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
-  folderCommands.delArtist();
+  room.folderCommands.delArtist();
   EXPECT_EQ(trash.sent, std::vector<Text>{at(u"C2/Same/c.mp3")});
   EXPECT_TRUE(there(u"A0/Same/a.mp3"));
 }
@@ -219,11 +219,11 @@ TEST_F(FolderCommandsTest, AFolderRenamedToItselfIsLeftAlone) {
 
 TEST_F(FolderCommandsTest, ThePlayingFileGoesOnUnderItsNewName) {
   show({u"rock/A/1.mp3"});
-  player.held = at(u"rock/A/1.mp3");
+  media.setFile(at(u"rock/A/1.mp3"));
   renGenre({u"rock"}, u"Pop");
-  EXPECT_EQ(player.held, at(u"Pop/A/1.mp3"));
+  EXPECT_EQ(media.file(), at(u"Pop/A/1.mp3"));
   renGenre({u"Pop"}, u"POP");
-  EXPECT_EQ(player.held, at(u"POP/A/1.mp3"));
+  EXPECT_EQ(media.file(), at(u"POP/A/1.mp3"));
 }
 
 /// A failure of any operation, once or for good, whatever the user answers: no file is lost, none changed.
@@ -248,7 +248,7 @@ TEST_F(FolderCommandsTest, RenLosesNothingAtAnyFault) {
         files.failFrom(nth, FileError::deviceError);
       else
         files.failAt(nth, FileError::permissionDenied);
-      folderCommands.renGenre();
+      room.folderCommands.renGenre();
       const TreeSnapshot after = snapshot();
       EXPECT_TRUE(after.holdsAllContentsOf(before)) << nth << '\n' << before << after;
       EXPECT_EQ(after.files(), before.files()) << nth;
@@ -260,13 +260,13 @@ TEST_F(FolderCommandsTest, RenLosesNothingAtAnyFault) {
 TEST_F(FolderCommandsTest, DelSendsAllFilesToTheTrashAndTakesEmptyFoldersAway) {
   show({u"rock/A/Al 2001/1.mp3", u"rock/A/own \"x\".mp3", u"rock/loose.mp3", u"pop/P/p.mp3"});
   click(form3.List1, {u"rock"});
-  player.held = at(u"rock/loose.mp3");
+  media.setFile(at(u"rock/loose.mp3"));
   answer(u"Are you sure you want to DELETE selected folder(s) ?", u"Delete");
-  folderCommands.delGenre();
+  room.folderCommands.delGenre();
   EXPECT_EQ(trash.sent.size(), 3U) << "whatever their names";
   EXPECT_FALSE(there(u"rock"));
   EXPECT_EQ(rows(form3.List1), Names{"pop"});
-  EXPECT_EQ(player.held, u"");
+  EXPECT_EQ(media.file(), u"");
   expectAtRest();
 }
 
@@ -276,7 +276,7 @@ TEST_F(FolderCommandsTest, AFolderThatStillHoldsAFileStays) {
   click(form3.List2, {u"A", u"B"});
   trash.refused = at(u"rock/A/1.mp3");
   answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
-  folderCommands.delArtist();
+  room.folderCommands.delArtist();
   EXPECT_EQ(rows(form3.List2), Names{"A"});
   EXPECT_TRUE(there(u"rock/A/1.mp3"));
 }
@@ -287,7 +287,7 @@ TEST_F(FolderCommandsTest, DelOfAlbumsAsksAgainForFilesWithoutAFolder) {
   click(form3.List3, {Text(base::withoutFolder), u"One 2001"});
   answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
   answer(u"Are you sure you want to DELETE selected file(s)?", u"Delete");
-  folderCommands.delAlbum();
+  room.folderCommands.delAlbum();
   EXPECT_EQ(trash.sent, (std::vector<Text>{at(u"R/A/own.mp3"), at(u"R/A/One 2001/1.mp3")}));
   EXPECT_EQ(rows(form3.List3), Names{"Two 2002"});
   EXPECT_EQ(rows(form3.List8), Names{});
@@ -316,10 +316,10 @@ TEST_F(FolderCommandsTest, AFolderThatCannotBeReadEndsTheCommandWithAMessage) {
   folder.removeAll(u"base/rock");
   answer(u"Are you sure you want to RENAME selected folder(s) ?", u"Rename");
   answer(u"Unexpected error #53 occurred: File not found", u"Rename");
-  folderCommands.renGenre();
+  room.folderCommands.renGenre();
   answer(u"Are you sure you want to DELETE selected folder(s) ?", u"Delete");
   answer(u"Unexpected error #53 occurred: File not found", u"Delete");
-  folderCommands.delGenre();
+  room.folderCommands.delGenre();
   EXPECT_EQ(dialogs.lastIcon, platform::Icon::Critical);
   expectAtRest();
 }

@@ -230,13 +230,15 @@ TEST_F(MoveCommandsTest, WhatIsNotSelectedInTheBaseIsAskedFor) {
   moves.moveTitle();
   EXPECT_EQ(dialogs.lastIcon, platform::Icon::Exclamation);
   dialogs.expect(u"Select only ONE item in genre list from Base.", u"Create Folder", Answer::Ok);
-  namer.nameArtist();
+  room.names.nameArtist();
   dialogs.expect(u"Select only ONE item in genre and artist list from Base.", u"Create Folder", Answer::Ok);
-  namer.nameAlbum();
+  room.names.nameAlbum();
   settings.set(u"DirZaBazu", u"");
   lists.readRoot();
+  for (int asked = 0; asked < 2; ++asked)
+    dialogs.expectFolder(u"Select main folder for Your Music Base", std::nullopt);
   moves.moveGenre();
-  namer.nameGenre();
+  room.names.nameGenre();
   EXPECT_THAT(kinds(), IsEmpty());
 }
 
@@ -244,15 +246,15 @@ TEST_F(MoveCommandsTest, NamesBecomeFoldersThatUndoTakesAway) {
   fill();
   remember();
   form2.Combo1.setText(u"New: Genre");
-  namer.nameGenre();
+  room.names.nameGenre();
   EXPECT_TRUE(there(u"New  Genre"));
   EXPECT_EQ(chosen(form3.List1), Names{"New  Genre"});
   form2.Text2.setText(u"Gamma");
-  namer.nameArtist();
+  room.names.nameArtist();
   EXPECT_TRUE(there(u"New  Genre/Gamma"));
   form2.Text3.setText(u" Album ");
   form2.Text5.setText(u"1970 ");
-  namer.nameAlbum();
+  room.names.nameAlbum();
   EXPECT_TRUE(there(u"New  Genre/Gamma/Album  1970"));
   EXPECT_EQ(kinds(), (Names{"st2", "biv", "mkd", "st2", "biv", "mkd", "st2", "biv", "mkd"}));
   EXPECT_EQ(table.aktivniprozor, 2);

@@ -33,17 +33,17 @@ TEST_F(WindowSnapshotTest, ItHasTwentySixSections) {
     form2.List4.setTopIndex(1);
     form3.List8.select({1}, 1);
   }
-  const Text snapshot = windowState.windowStateSnapshot();
+  const Text snapshot = room.snapshot.windowStateSnapshot();
   EXPECT_EQ(snapshot, u"1:-2::: 0, 2: 0: 0: 0, 1: 1: 2: 1, 3: 2:: 1: 0: 0: 0: 0: 0: 0: 0: 0: 0: 0: 1: 0:");
   EXPECT_EQ(std::ranges::count(snapshot, u':'), 26);
   form3.List1.clearSelection();
-  windowState.restore(snapshot);
+  room.snapshot.restore(snapshot);
   EXPECT_EQ(chosen(form2.List2), (Names{"A101 ", "A103 "}));
   EXPECT_EQ(form2.List4.TopIndex(), 1);
   EXPECT_EQ(form2.List4.selectedIndexes(), std::vector{1});
   EXPECT_EQ(chosen(form3.List1), Names{"Pop"});
   EXPECT_EQ(chosen(form3.List8), Names{"b"}) << "the titles are listed first";
-  EXPECT_EQ(windowState.windowStateSnapshot(), snapshot);
+  EXPECT_EQ(room.snapshot.windowStateSnapshot(), snapshot);
   EXPECT_EQ(table.puniliste, 0);
 }
 
@@ -52,11 +52,11 @@ TEST_F(WindowSnapshotTest, TheFolderOfTheGenresComesBack) {
   form2.genreByFolder.click();
   form2.Dir1.click(u"/new");
   click(form2.List2, {u"A102 "});
-  const Text snapshot = windowState.windowStateSnapshot();
+  const Text snapshot = room.snapshot.windowStateSnapshot();
   EXPECT_EQ(settings.get(u"form2dir"), u"/new");
   form2.Dir1.click(u"/elsewhere");
   EXPECT_EQ(form2.List2.ListCount(), 0);
-  windowState.restore(snapshot);
+  room.snapshot.restore(snapshot);
   EXPECT_EQ(form2.Dir1.path(), u"/new");
   EXPECT_EQ(chosen(form2.List2), Names{"A102 "});
 }
@@ -70,25 +70,25 @@ TEST_F(WindowSnapshotTest, OneThatNoRecordCouldCarryLeavesTheLongestSelectionsOu
     const list::QuietLists quietly(table);
     click(form2.List2, {u"A105 "});
   }
-  Text snapshot = windowState.windowStateSnapshot();
+  Text snapshot = room.snapshot.windowStateSnapshot();
   EXPECT_LT(snapshot.size(), 200U) << "what is not put back goes first";
-  windowState.restore(snapshot);
+  room.snapshot.restore(snapshot);
   EXPECT_EQ(chosen(form2.List2), Names{"A105 "});
   form1.List4.clearSelection();
   {
     const list::QuietLists quietly(table);
     form2.List2.select(many, 0);
   }
-  snapshot = windowState.windowStateSnapshot();
+  snapshot = room.snapshot.windowStateSnapshot();
   EXPECT_LE(snapshot.size(), 999U);
-  windowState.restore(snapshot);
+  room.snapshot.restore(snapshot);
   EXPECT_EQ(chosen(form2.List1), Names{"Rock"});
 }
 
 TEST_F(WindowSnapshotTest, AnyTextIsRead) {
   fill(2);
   for (const char16_t* text : {u"", u":::::", u"1:0: 99, 5, -7:x,,:999999999999: 3", u"7:-2: 0::::: 9, 9:::"})
-    windowState.restore(text);
+    room.snapshot.restore(text);
   EXPECT_EQ(table.puniliste, 0);
 }
 

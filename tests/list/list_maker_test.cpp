@@ -188,28 +188,8 @@ TEST_F(ListMakerTest, StopLeavesWhatWasFoundWholeAndSaved) {
   expectAtRest();
 }
 
-/// A user who says yes to whatever comes.
-struct Consenting final : platform::Dialogs {
-  Answer message(const Text&, const Text&, platform::Buttons, platform::Icon) override { return Answer::Ok; }
-  std::optional<Text> input(const Text&, const Text&, const Text&) override { return {}; }
-  std::optional<Text> pickFolder(const Text&, const Text&) override { return {}; }
-};
-
 TEST_F(ListMakerTest, AFailureAtAnyFileOperationLeavesWholeRowsAndUsableWindows) {
-  Consenting consenting;
-  ListMaker told({.table = table,
-                  .settings = settings,
-                  .data = data,
-                  .files = files,
-                  .dialogs = consenting,
-                  .desktop = desktop,
-                  .windows = windows,
-                  .progress = progress,
-                  .closing = closing,
-                  .journal = journal,
-                  .artists = artists,
-                  .dashes = dashes,
-                  .panel = panel});
+  dialogs.otherwise = [](platform::Buttons) { return Answer::Ok; };
   useBase();
   song(u"base/Rock/KO-RA/Ko - Ra - x.mp3");
   song(u"music/a.mp3");
@@ -222,7 +202,7 @@ TEST_F(ListMakerTest, AFailureAtAnyFileOperationLeavesWholeRowsAndUsableWindows)
     for (int nth = 1; failed; nth += nth < 20 ? 1 : 9) {
       SCOPED_TRACE(nth);
       lasting ? files.failFrom(nth) : files.failAt(nth);
-      told.add();
+      maker.add();
       failed = files.hasFailed();
       files.failNoMore();
       expectAtRest();
@@ -238,7 +218,7 @@ TEST_F(ListMakerTest, AFailureAtAnyFileOperationLeavesWholeRowsAndUsableWindows)
       if (!failed) {
         EXPECT_EQ(loaded.brojfajlova(), 2);
       }
-      told.newList();
+      maker.newList();
     }
   }
 }

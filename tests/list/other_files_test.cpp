@@ -31,10 +31,10 @@ TEST_F(OtherFilesTest, DeleteSendsTheSelectedFilesToTheTrash) {
   other.deleteSelected();
   EXPECT_EQ(trash.sent, Texts()) << "nothing is selected";
   list.select({0, 2}, 2);
-  player.held = paths[2];
+  media.setFile(paths[2]);
   other.deleteSelected();
   EXPECT_EQ(trash.sent, (Texts{paths[0], paths[2]}));
-  EXPECT_EQ(player.held, u"") << "the player lets go first";
+  EXPECT_EQ(media.file(), u"") << "the player lets go first";
   expectRows({paths[1], paths[3]});
 }
 
