@@ -158,25 +158,17 @@ struct YearFilterTest : test::BaseWorld {
   }
   void choose(const std::vector<int>& chosenYears) {
     years.open();
-    std::vector<int> rowsOfYears;
-    for (const int year : chosenYears) rowsOfYears.push_back(year == 0 ? 0 : 2026 - year + 1);
     form3.years.List9.clearSelection();
-    for (const int row : rowsOfYears) form3.years.List9.setSelected(row, true);
+    for (const int year : chosenYears) form3.years.List9.setSelected(year == 0 ? 0 : 2026 - year + 1, true);
     years.ok();
   }
   int applied = 0;
 };
 
-TEST_F(YearFilterTest, AtFirstAllYearsAreShown) {
+TEST_F(YearFilterTest, OnlyFoldersOfTheSelectedYearsAreShown) {
   EXPECT_EQ(form3.years.List9.ListCount(), 62);
-  EXPECT_EQ(form3.years.List9.List(1), u"2026");
   EXPECT_EQ(form3.years.List9.List(61), u"1966");
   EXPECT_TRUE(years.allYears());
-  EXPECT_EQ(form3.selectYears.colour(), (ui::Colour{0xE0, 0xE0, 0xE0}));
-  EXPECT_FALSE(form3.years.frame.visible());
-}
-
-TEST_F(YearFilterTest, OnlyFoldersOfTheSelectedYearsAreShown) {
   show({u"Pop/A/Greatest 2000/1.mp3", u"Pop/A/own.mp3", u"Pop/A/Later 2001/1.mp3", u"Pop/B/Old 1999/1.mp3",
         u"Rock/C/2000 Greatest/1.mp3", u"Soul/D/own 2000.mp3"});
   choose({2000});

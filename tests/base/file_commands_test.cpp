@@ -34,16 +34,12 @@ TEST_F(FileCommandsTest, RenKeepsTheArtistAndTheExtension) {
   EXPECT_EQ(media.file(), at(u"R/A/Al 2001/A - Uno   1 2 .mp3"));
   form3.showAutor.setChecked(true);
   lists.fillTitles();
+  ren(u"A - own", u"A - mine");
+  EXPECT_TRUE(there(u"R/A/A - mine.mp3") && there(u"R/B/A - own.mp3"));
   ren(u"A - two", u"B - deux");
   EXPECT_EQ(content(u"R/A/Al 2001/B - deux.mp3"), "R/A/Al 2001/A - two.mp3");
   EXPECT_EQ(chosen(form3.List8), Names{"B - deux"});
   expectAtRest();
-}
-
-TEST_F(FileCommandsTest, RenOfAFileWithoutAFolder) {
-  ren(u"own", u"mine");
-  EXPECT_TRUE(there(u"R/A/A - mine.mp3"));
-  EXPECT_TRUE(there(u"R/B/A - own.mp3"));
 }
 
 TEST_F(FileCommandsTest, RenNeverOverwrites) {

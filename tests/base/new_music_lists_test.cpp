@@ -36,12 +36,6 @@ TEST(TagValues, TheSecondTagWinsAndBlanksCountAsNothing) {
   EXPECT_EQ(base::TagAlbumYear(table, 1), u"2001");
 }
 
-TEST_F(NewMusicListsTest, AnEmptyTableLeavesAllListsEmpty) {
-  music.IzlistajVrste();
-  for (const ui::ListBox* list : {&form2.List1, &form2.List2, &form2.List3, &form2.List4, &form2.List8})
-    EXPECT_EQ(list->ListCount(), 0);
-}
-
 TEST_F(NewMusicListsTest, TheFirstListingComesBehindAProgressWindow) {
   song(u"A - 1", {u"Rock"});
   table.aktivniprozor = 3;
@@ -271,6 +265,22 @@ TEST_F(NewMusicListsTest, TheWindowOpensAsItWasClosed) {
   EXPECT_EQ(rows(form2.List4), Names{" 3"});
   room.state.restore(u" 9, 9:junk:::99999: 7:");
   EXPECT_EQ(table.puniliste, 0);
+}
+
+TEST_F(NewMusicListsTest, TooLittleRoomIsRed) {
+  const double need = static_cast<double>(disk.size(song(u"A - 1")) + disk.size(song(u"B - 2")));
+  summary.moze();
+  EXPECT_EQ(form2.newLabel.text(), u"New: 2");
+  EXPECT_EQ(form2.needLabel.text(), u"Need:  0 KB") << "a file on the same volume needs no room";
+  EXPECT_EQ(form2.freeLabel.colour(), (ui::Colour{0x40, 0x40, 0x40}));
+  files.pretendVolume(lists.root());
+  summary.forget();
+  EXPECT_EQ(summary.NeedBytes(), need);
+  files.failFrom(1);
+  summary.moze();
+  files.failNoMore();
+  EXPECT_EQ(form2.freeLabel.colour(), (ui::Colour{255, 50, 0}));
+  EXPECT_EQ(form2.freeLabel.text(), u"Free(" + lists.root() + u":)  0 KB");
 }
 
 }  // namespace

@@ -134,16 +134,6 @@ TEST_F(ListMakerTest, TheArtistsOfTheBaseAreListedAtTheFirstAddAlone) {
   EXPECT_EQ(table.stariautori.size(), 2u);
 }
 
-TEST_F(ListMakerTest, WithoutMusicOnlyTheOtherFilesAreKept) {
-  const Text text = folder.write(u"music/read.txt", "");
-  add(u"music");
-  EXPECT_EQ(table.brojfajlova(), 0);
-  EXPECT_EQ(data.readList(u"niznomusic.txt"), Texts{text});
-  EXPECT_FALSE(folder.exists(u"Data/nizdes.txt"));
-  EXPECT_EQ(form1.countLabel.text(), u" 0  new songs ");
-  expectAtRest();
-}
-
 TEST_F(ListMakerTest, WhatIsLeftOutIsToldOnceAtTheEnd) {
   song(u"music/a.mp3");
   song(u"music/b\"c\".mp3");
@@ -237,13 +227,6 @@ TEST_F(ListMakerTest, BeyondTheDisplayLimitRowsAreKeptButNotShown) {
   EXPECT_EQ(form1.List4.ListCount(), 32736);
 }
 
-TEST_F(ListMakerTest, ADamagedCountTakesInNoRowsThatAreNotThere) {
-  table.setBrojfajlova(12);
-  const Text a = song(u"music/a.mp3");
-  add(u"music");
-  EXPECT_EQ(working(), Texts{a});
-}
-
 TEST_F(ListMakerTest, AddRunsArtistListWhenThatIsTheReview) {
   int runs = 0;
   maker.onArtistList = [&] { ++runs; };
@@ -268,17 +251,6 @@ TEST_F(ListMakerTest, NothingStartsWhileACommandRuns) {
   add(u"music");
   EXPECT_EQ(clicks, 2);
   EXPECT_EQ(table.brojbaza, 1);
-}
-
-TEST_F(ListMakerTest, AddFolderAsksForTheFolder) {
-  const Text a = song(u"music/a.mp3");
-  dialogs.expectFolder(u"Select folder where are music for add on list.", std::nullopt);
-  maker.addFolder();
-  EXPECT_EQ(table.brojbaza, 0);
-  dialogs.expectFolder(u"Select folder where are music for add on list.", folder.path(u"music"));
-  maker.addFolder();
-  EXPECT_EQ(form1.folderTree.path(), folder.path(u"music"));
-  EXPECT_EQ(working(), Texts{a});
 }
 
 TEST_F(ListMakerTest, NewListAsksAndThenKeepsTheMusicBaseAlone) {

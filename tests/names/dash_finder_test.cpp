@@ -1,30 +1,16 @@
 #include "names/dash_finder.h"
 
-#include <gtest/gtest.h>
-
-#include "core/settings.h"
-#include "system/posix_files.h"
+#include "tests/support/house_world.h"
 #include "tests/support/mp3_maker.h"
-#include "tests/support/temp_folder.h"
 
 namespace velmora::names {
 namespace {
 
-struct DashFinderTest : testing::Test {
-  test::TempFolder folder;
-  system::PosixFiles files;
-  core::TrackTable table;
-  core::Settings settings{files, folder.path(u"Settings.ini")};
-  core::DataFolder data{files, settings, folder.path()};
-  ui::Form1 form1;
-  review::ArtistBook artists{table, data, form1};
-  tags::TagCache tags{table, files};
-  DashFinder dashes{table, artists, tags};
-
+struct DashFinderTest : test::HouseWorld {
   /// Dash position of a row with this path.
   Text dashOf(const Text& path) {
     table.appendPath(path);
-    dashes.find(table.rows());
+    house.dashes.find(table.rows());
     return table.track(table.rows()).crtapos.text();
   }
   Text found(TextView fileName) {

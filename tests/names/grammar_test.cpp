@@ -36,13 +36,6 @@ TEST_F(GrammarTest, ADashPositionThatFitsNoNameDoesNoHarm) {
   EXPECT_EQ(ImeFajla(table, 0), u"");
 }
 
-TEST_F(GrammarTest, TheBareNameLosesFourCharactersWhateverTheyAre) {
-  for (const TextView name : {u"a.mpeg", u"abc", u"no folder.mp3"}) table.appendPath(u"/music/" + Text(name));
-  EXPECT_EQ(ImeFajla(table, 1), u"a.");
-  EXPECT_EQ(ImeFajla(table, 2), u"");
-  EXPECT_EQ(ImeFajla(table, 3), u"no folder");
-}
-
 TEST(ComparisonKey, KeepsLettersAToZUnlessTooFewAreLeft) {
   EXPECT_EQ(SamoSlova(u"A.r-v 0O"), u"ARVO");
   EXPECT_EQ(SamoSlova(u"Ma\u0161a 2"), u"MAA") << "letters beyond Z do not count";

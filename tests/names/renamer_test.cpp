@@ -17,6 +17,8 @@ struct RenamerTest : test::RepairBench {
 
 TEST_F(RenamerTest, CleansTheBoxAndTakesTheNameThatStandsThere) {
   add({{u"old"}});
+  rename(u"old", u"old");
+  EXPECT_EQ(kinds(), (Names{"st1", "bi1"})) << "the same name changes nothing";
   rename(u"old", u"  Arvola: Who?  ");
   EXPECT_EQ(names(), (Names{"Arvola  Who"})) << "each character that a name cannot hold is one blank";
   EXPECT_EQ(form1().Text1.text(), u"Arvola  Who");

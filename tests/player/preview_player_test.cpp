@@ -1,13 +1,7 @@
 #include "player/preview_player.h"
 
-#include <gtest/gtest.h>
-
-#include "core/text.h"
-#include "system/posix_files.h"
-#include "tests/support/fake_media_player.h"
+#include "tests/support/house_world.h"
 #include "tests/support/mp3_maker.h"
-#include "tests/support/scripted_desktop.h"
-#include "tests/support/temp_folder.h"
 
 namespace velmora::player {
 namespace {
@@ -15,219 +9,187 @@ namespace {
 using platform::PlayState;
 
 TEST(PreviewPlayer, SoundIsLogarithmicInTheShareOfTheTrack) {
-  EXPECT_EQ(soundOfShare(0), -10000);
-  EXPECT_EQ(soundOfShare(1), 0);
-  EXPECT_EQ(soundOfShare(0.5), -752);
-  EXPECT_EQ(soundOfShare(0.1), -2499);
-  EXPECT_EQ(soundOfShare(-1), -10000);
-  EXPECT_EQ(soundOfShare(2), 0);
+  for (const auto& [share, sound] :
+       {std::pair{0.0, -10000}, {1.0, 0}, {0.5, -752}, {0.1, -2499}, {-1.0, -10000}, {2.0, 0}})
+    EXPECT_EQ(soundOfShare(share), sound);
 }
 
 TEST(PreviewPlayer, TimeIsMinutesRoundedAndSecondsCut) {
-  EXPECT_EQ(timeText(0), u"00:00");
-  EXPECT_EQ(timeText(9.9), u"00:09");
-  EXPECT_EQ(timeText(75.4), u"01:15");
-  EXPECT_EQ(timeText(3599), u"59:59");
-  EXPECT_EQ(timeText(6000), u"100:00");
-  EXPECT_EQ(timeText(-1), u"00:00");
+  for (const auto& [seconds, text] : {std::pair{0.0, u"00:00"},
+                                      {9.9, u"00:09"},
+                                      {75.4, u"01:15"},
+                                      {3599.0, u"59:59"},
+                                      {6000.0, u"100:00"},
+                                      {-1.0, u"00:00"}})
+    EXPECT_EQ(timeText(seconds), text);
 }
 
-class PreviewPlayerTest : public testing::Test {
- protected:
+struct PreviewPlayerTest : test::HouseWorld {
+  PreviewPlayer& player = house.player;
+  test::Texts paths;
+
   PreviewPlayerTest() {
     for (const TextView name : {u"a - one.mp3", u"b - two.mp3"}) {
-      paths_.push_back(folder_.write(name, test::mpegFrames()));
-      table_.appendPath(paths_.back());
-      form1_.List4.AddItem(paths_.back());
-      media_.know(paths_.back(), 100);
+      paths.push_back(folder.write(name, test::mpegFrames()));
+      table.appendPath(paths.back());
+      form1.List4.AddItem(paths.back());
+      media.know(paths.back(), 100);
     }
-    table_.resizeColumns();
-    table_.setBrojfajlova(2);
-    table_.ton = -300;
+    table.resizeColumns();
+    table.setBrojfajlova(2);
+    table.ton = -300;
   }
   void expectShown(double share, TextView time) {
-    EXPECT_DOUBLE_EQ(form1_.player.position.share(), share);
-    EXPECT_EQ(core::toBytes(form1_.player.time.text()), core::toBytes(time));
+    EXPECT_DOUBLE_EQ(form1.player.position.share(), share);
+    EXPECT_EQ(core::toBytes(form1.player.time.text()), core::toBytes(time));
   }
-
-  test::TempFolder folder_;
-  system::PosixFiles files_;
-  test::ScriptedDesktop desktop_;
-  test::FakeMediaPlayer media_;
-  core::TrackTable table_;
-  ui::Form1 form1_;
-  std::vector<Text> paths_;
-  tags::TagCache cache_{table_, files_};
-  tags::FilePanel panel_{table_, files_, cache_, form1_};
-  PreviewPlayer player_{{table_, media_, desktop_, panel_, form1_, u"/program/private.wav"}};
 };
 
 TEST_F(PreviewPlayerTest, DoubleClickPlaysTheRowAndShowsIt) {
-  form1_.List4.select({1}, 1);
-  player_.List4DoubleClick();
-  EXPECT_EQ(media_.file(), paths_[1]);
-  EXPECT_EQ(media_.state(), PlayState::Playing);
-  EXPECT_EQ(media_.volume, -300);
-  EXPECT_EQ(form1_.statusLabel.text(), u"Now playing: " + paths_[1]);
-  EXPECT_EQ(table_.currentRow, 2);
-  EXPECT_EQ(form1_.path.text(), paths_[1]);
-}
-
-TEST_F(PreviewPlayerTest, ThePanelShowsThePlayedFileWithItsOwnName) {
-  form1_.Text1.setText(u"a - one");
-  form1_.List4.setListIndex(1);
-  player_.List4DoubleClick();
-  EXPECT_EQ(form1_.path.text(), paths_[1]);
-  EXPECT_EQ(form1_.Text1.text(), u"b - two");
-}
-
-TEST_F(PreviewPlayerTest, DoubleClickIsQuietWhileListsAreRefilled) {
-  form1_.List4.select({1}, 1);
-  table_.puniliste = 1;
-  player_.List4DoubleClick();
-  EXPECT_TRUE(media_.opened.empty());
+  form1.Text1.setText(u"a - one");
+  form1.List4.select({1}, 1);
+  table.puniliste = 1;
+  player.List4DoubleClick();
+  EXPECT_TRUE(media.opened.empty()) << "quiet while lists are refilled";
+  table.puniliste = 0;
+  player.List4DoubleClick();
+  EXPECT_EQ(media.file(), paths[1]);
+  EXPECT_EQ(media.state(), PlayState::Playing);
+  EXPECT_EQ(media.volume, -300);
+  EXPECT_EQ(form1.statusLabel.text(), u"Now playing: " + paths[1]);
+  EXPECT_EQ(table.currentRow, 2);
+  EXPECT_EQ(form1.path.text(), paths[1]);
+  EXPECT_EQ(form1.Text1.text(), u"b - two");
+  EXPECT_EQ(player.durationOf(paths[1]), 100);
+  EXPECT_EQ(player.durationOf(paths[0]), 0) << "the length of its own file alone";
+  form1.preview.setShare(0.5);
+  player.soundMoved();
+  EXPECT_EQ(table.ton, -752);
+  EXPECT_EQ(media.volume, -752);
 }
 
 TEST_F(PreviewPlayerTest, OtherFilesOpenWithTheirOwnProgram) {
-  form1_.ostali.setChosen(true);
-  form1_.List4.select({0}, 0);
-  player_.List4DoubleClick();
-  EXPECT_EQ(desktop_.opened, std::vector<Text>{paths_[0]});
-  EXPECT_TRUE(media_.opened.empty());
+  form1.ostali.setChosen(true);
+  form1.List4.select({0}, 0);
+  player.List4DoubleClick();
+  EXPECT_EQ(desktop.opened, test::Texts{paths[0]});
+  EXPECT_TRUE(media.opened.empty());
 }
 
 TEST_F(PreviewPlayerTest, ABrokenFileLeavesItStopped) {
-  table_.track(1).nizdes = u"/nowhere/gone.mp3";
-  player_.playRow(1);
-  EXPECT_EQ(media_.state(), PlayState::Stopped);
-  EXPECT_FALSE(form1_.player.Timer4.on());
-  player_.tick();
+  table.track(1).nizdes = u"/nowhere/gone.mp3";
+  player.playRow(1);
+  EXPECT_EQ(media.state(), PlayState::Stopped);
+  EXPECT_FALSE(form1.player.Timer4.on());
+  player.tick();
   expectShown(0, u"00:00");
 }
 
 TEST_F(PreviewPlayerTest, TheTimerRunsWhilePlayingOnly) {
   int started = 0;
-  player_.onPlaying = [&] { ++started; };
-  player_.playRow(1);
-  EXPECT_TRUE(form1_.player.Timer4.on());
-  player_.pause();
-  EXPECT_FALSE(form1_.player.Timer4.on());
-  player_.play();
-  EXPECT_TRUE(form1_.player.Timer4.on());
+  player.onPlaying = [&] { ++started; };
+  player.playRow(1);
+  EXPECT_TRUE(form1.player.Timer4.on());
+  player.pause();
+  EXPECT_FALSE(form1.player.Timer4.on());
+  player.play();
+  EXPECT_TRUE(form1.player.Timer4.on());
   EXPECT_EQ(started, 2);
-  media_.advance(200);
-  EXPECT_FALSE(form1_.player.Timer4.on()) << "the file came to its end";
+  media.advance(200);
+  EXPECT_FALSE(form1.player.Timer4.on()) << "the file came to its end";
 }
 
 TEST_F(PreviewPlayerTest, TicksMoveTheKnobAndTheTimeAndStopPutsThemBack) {
-  player_.playRow(1);
-  player_.tick();
+  player.playRow(1);
+  player.tick();
   expectShown(0, u"00:00");
-  media_.advance(25);
-  player_.tick();
+  media.advance(25);
+  player.tick();
   expectShown(0.25, u"00:25");
-  player_.pause();
+  player.pause();
   expectShown(0.25, u"00:25");
-  player_.stop();
+  player.stop();
   expectShown(0, u"00:00");
-  EXPECT_EQ(media_.position(), 0);
+  EXPECT_EQ(media.position(), 0);
 }
 
 TEST_F(PreviewPlayerTest, TheKnobFollowsTheMouseAndSeeksWhenLetGo) {
-  player_.playRow(1);
-  media_.advance(10);
-  player_.positionPressed();
-  EXPECT_FALSE(form1_.player.Timer4.on());
-  form1_.player.position.setShare(0.75);
-  player_.positionMoved();
-  EXPECT_EQ(form1_.player.time.text(), u"01:15");
-  EXPECT_EQ(media_.position(), 10) << "nothing is sought before the knob is let go";
-  const int focused = form1_.List4.focusRequests();
-  player_.positionReleased();
-  EXPECT_EQ(media_.position(), 75);
-  EXPECT_TRUE(form1_.player.Timer4.on());
-  EXPECT_EQ(form1_.List4.focusRequests(), focused + 1);
+  player.playRow(1);
+  media.advance(10);
+  player.positionPressed();
+  EXPECT_FALSE(form1.player.Timer4.on());
+  form1.player.position.setShare(0.75);
+  player.positionMoved();
+  EXPECT_EQ(form1.player.time.text(), u"01:15");
+  EXPECT_EQ(media.position(), 10) << "nothing is sought before the knob is let go";
+  const int focused = form1.List4.focusRequests();
+  player.positionReleased();
+  EXPECT_EQ(media.position(), 75);
+  EXPECT_TRUE(form1.player.Timer4.on());
+  EXPECT_EQ(form1.List4.focusRequests(), focused + 1);
 
-  player_.pause();
-  player_.positionPressed();
-  player_.positionReleased();
-  EXPECT_FALSE(form1_.player.Timer4.on()) << "a paused player has no beat";
-}
-
-TEST_F(PreviewPlayerTest, TheSoundSliderSetsTonAndVolume) {
-  form1_.preview.setShare(0.5);
-  player_.soundMoved();
-  EXPECT_EQ(table_.ton, -752);
-  EXPECT_EQ(media_.volume, -752);
+  player.pause();
+  player.positionPressed();
+  player.positionReleased();
+  EXPECT_FALSE(form1.player.Timer4.on()) << "a paused player has no beat";
 }
 
 TEST_F(PreviewPlayerTest, GivesUpItsFileAndGoesOnAtTheSamePlaceUnderTheNewName) {
-  player_.playRow(1);
-  media_.advance(42);
-  const Text renamed = folder_.path(u"a - uno.mp3");
-  media_.know(renamed, 100);
+  player.playRow(1);
+  media.advance(42);
+  const Text renamed = folder.path(u"a - uno.mp3");
+  media.know(renamed, 100);
+  { const FileHandOver handOver(player, paths[1]); }
+  EXPECT_EQ(media.opened.size(), 1U) << "another file is not given up";
   {
-    FileHandOver handOver(player_, paths_[0]);
+    FileHandOver handOver(player, paths[0]);
     ASSERT_TRUE(handOver.held());
-    EXPECT_EQ(media_.file(), u"/program/private.wav");
-    EXPECT_EQ(media_.volume, -4452);
-    EXPECT_FALSE(player_.holds(paths_[0]));
+    EXPECT_EQ(media.file(), folder.path(u"private.wav"));
+    EXPECT_EQ(media.volume, -4452);
+    EXPECT_FALSE(player.holds(paths[0]));
     handOver.renamed(renamed);
   }
-  EXPECT_EQ(media_.file(), renamed);
-  EXPECT_EQ(media_.position(), 42);
-  EXPECT_EQ(media_.state(), PlayState::Playing);
-  EXPECT_EQ(media_.volume, -300);
+  EXPECT_EQ(media.file(), renamed);
+  EXPECT_EQ(media.position(), 42);
+  EXPECT_EQ(media.state(), PlayState::Playing);
+  EXPECT_EQ(media.volume, -300);
   expectShown(0.42, u"00:42");
 }
 
 TEST_F(PreviewPlayerTest, APausedFileComesBackPausedAndAStoppedOneStopped) {
-  player_.playRow(1);
-  media_.advance(42);
-  player_.pause();
-  { FileHandOver handOver(player_, paths_[0]); }
-  EXPECT_EQ(media_.state(), PlayState::Paused);
-  EXPECT_EQ(media_.position(), 42);
-  player_.stop();
-  { FileHandOver handOver(player_, paths_[0]); }
-  EXPECT_EQ(media_.state(), PlayState::Stopped);
-  EXPECT_EQ(media_.file(), paths_[0]);
-}
-
-TEST_F(PreviewPlayerTest, OtherFilesAreNotGivenUp) {
-  player_.playRow(1);
-  { const FileHandOver handOver(player_, paths_[1]); }
-  EXPECT_EQ(media_.opened, std::vector<Text>{paths_[0]});
-  EXPECT_FALSE(player_.holds(u""));
+  player.playRow(1);
+  media.advance(42);
+  player.pause();
+  { FileHandOver handOver(player, paths[0]); }
+  EXPECT_EQ(media.state(), PlayState::Paused);
+  EXPECT_EQ(media.position(), 42);
+  player.stop();
+  { FileHandOver handOver(player, paths[0]); }
+  EXPECT_EQ(media.state(), PlayState::Stopped);
+  EXPECT_EQ(media.file(), paths[0]);
 }
 
 TEST_F(PreviewPlayerTest, WhatTheUserDoesMeanwhileCounts) {
-  player_.playRow(1);
-  media_.advance(42);
+  player.playRow(1);
+  media.advance(42);
   {
-    FileHandOver handOver(player_, paths_[0]);
-    player_.pause();
+    FileHandOver handOver(player, paths[0]);
+    player.pause();
   }
-  EXPECT_EQ(media_.state(), PlayState::Paused);
+  EXPECT_EQ(media.state(), PlayState::Paused);
   {
-    FileHandOver handOver(player_, paths_[0]);
-    player_.playRow(2);
+    FileHandOver handOver(player, paths[0]);
+    player.playRow(2);
   }
-  EXPECT_EQ(media_.file(), paths_[1]) << "the other file that was chosen plays on";
+  EXPECT_EQ(media.file(), paths[1]) << "the other file that was chosen plays on";
 }
 
 TEST_F(PreviewPlayerTest, CloseEmptiesThePlayer) {
-  player_.playRow(1);
-  player_.close();
-  EXPECT_TRUE(media_.file().empty());
-  EXPECT_FALSE(player_.holds(paths_[0]));
+  player.playRow(1);
+  player.close();
+  EXPECT_TRUE(media.file().empty());
+  EXPECT_FALSE(player.holds(paths[0]));
   expectShown(0, u"00:00");
-}
-
-TEST_F(PreviewPlayerTest, KnowsTheLengthOfItsFileAlone) {
-  player_.playRow(1);
-  EXPECT_EQ(player_.durationOf(paths_[0]), 100);
-  EXPECT_EQ(player_.durationOf(paths_[1]), 0);
 }
 
 }  // namespace

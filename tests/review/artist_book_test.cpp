@@ -1,24 +1,16 @@
 #include "review/artist_book.h"
 
-#include <gtest/gtest.h>
 #include <random>
 
-#include "system/posix_files.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/house_world.h"
 
 namespace velmora::review {
 namespace {
 
-using Texts = std::vector<Text>;
+using test::Texts;
 
-struct ArtistBookTest : testing::Test {
-  test::TempFolder folder;
-  system::PosixFiles files;
-  core::TrackTable table;
-  core::Settings settings{files, folder.path(u"Settings.ini")};
-  core::DataFolder data{files, settings, folder.path()};
-  ui::Form1 form1;
-  ArtistBook book{table, data, form1};
+struct ArtistBookTest : test::HouseWorld {
+  ArtistBook& book = house.artists;
 
   /// One row for each artist, the first `working` of them in the working list.
   void rows(const Texts& artists, int working) {
@@ -138,15 +130,15 @@ TEST_F(ArtistBookTest, OtherWindowsHearOfArtistsWhileTheyAreInFront) {
 
 TEST_F(ArtistBookTest, TheArtistFolderIsTheSecondOneBelowTheBase) {
   table.dirzabazu = u"/base";
-  const auto folderOf = [this](const Text& path) {
-    table.appendPath(path);
-    return book.FolderAutor(table.rows());
-  };
-  EXPECT_EQ(folderOf(u"/base/Rock/Arvola/1999/x.mp3"), u"Arvola");
-  EXPECT_EQ(folderOf(u"/base/Rock/Arvola/x.mp3"), u"Arvola");
-  EXPECT_EQ(folderOf(u"/base/Rock/x.mp3"), u" ");
-  EXPECT_EQ(folderOf(u"/base/x.mp3"), u" ");
-  EXPECT_EQ(folderOf(u"/elsewhere/Rock/Arvola/x.mp3"), u" ");
+  const std::pair<TextView, TextView> cases[] = {{u"/base/Rock/Arvola/1999/x.mp3", u"Arvola"},
+                                                 {u"/base/Rock/Arvola/x.mp3", u"Arvola"},
+                                                 {u"/base/Rock/x.mp3", u" "},
+                                                 {u"/base/x.mp3", u" "},
+                                                 {u"/elsewhere/Rock/Arvola/x.mp3", u" "}};
+  for (const auto& [path, artistFolder] : cases) {
+    table.appendPath(Text(path));
+    EXPECT_EQ(book.FolderAutor(table.rows()), artistFolder);
+  }
   EXPECT_EQ(book.FolderAutor(99), u" ");
   table.dirzabazu = u"/base/";
   EXPECT_EQ(book.FolderAutor(1), u"Arvola");

@@ -64,19 +64,6 @@ TEST_F(DeleteFilesTest, CancelKeepsThemAndShiftDoesNotAsk) {
   EXPECT_FALSE(tools().rename.enabled());
 }
 
-TEST_F(DeleteFilesTest, AfterTheUndoThePanelShowsTheFileThatIsSelected) {
-  add({{u"a"}, {u"b"}, {u"c"}});
-  const Text first = program.table().path(1);
-  form1().List4.select({0}, 0);
-  pressDelete(true);
-  form1().List4.select({0}, 0);
-  EXPECT_NE(form1().path.text(), first);
-  click(tools().undoLastOperation);
-  EXPECT_EQ(form1().List4.selectedIndexes(), std::vector<int>{0});
-  EXPECT_EQ(form1().path.text(), first);
-  EXPECT_EQ(program.table().currentRow, 1);
-}
-
 TEST_F(DeleteFilesTest, APlayingFileIsLetGoFirst) {
   add({{u"a"}});
   program.media.know(pathOf(u"a"), 60);

@@ -43,23 +43,6 @@ TEST_F(UndoJournalTest, LengthsCountCharactersAndHaveAtLeastThreeDigits) {
   EXPECT_EQ(lengthPrefixed(Text(1000, u'x')).substr(0, 5), u"1000x") << "which no reader takes";
 }
 
-TEST_F(UndoJournalTest, ARowSnapshotHoldsFlagsTagsNameAndCount) {
-  core::TrackTable table;
-  table.appendPath(u"/m/A - B.mp3");
-  table.setBrojfajlova(1);
-  core::Track& track = table.track(1);
-  track.crtapos = u" 3";
-  track.procitan = true;
-  track.imaid3v1 = false;
-  track.imaid3v2 = true;
-  track.pevacID3v1 = u"one";
-  track.vrstaid3v2 = u"Rock";
-  EXPECT_EQ(rowSnapshot(table, 1), u"101003one" + Text(30, u'0') + u"004Rock012/m/A - B.mp3002 3002 1");
-  const auto read = parseRowSnapshot(rowSnapshot(table, 1));
-  ASSERT_TRUE(read);
-  EXPECT_EQ(read->path, u"/m/A - B.mp3");
-}
-
 TEST_F(UndoJournalTest, TheTopmostMarkerIsFoundFromTheEnd) {
   EXPECT_EQ(journal.lastUndoMarker(), "");
   EXPECT_FALSE(journal.exists());

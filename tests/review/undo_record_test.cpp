@@ -12,13 +12,9 @@ Text record(TextView kind, TextView first, TextView rest) {
   return Text(kind) + lengthPrefixed(first) + u' ' + Text(rest);
 }
 
-TEST(UndoRecord, AMarkerIsItsThreeLetters) {
-  const UndoRecord marker = parseUndoRecord(u"st1");
-  EXPECT_EQ(marker.kind, u"st1");
-  EXPECT_FALSE(marker.data);
-}
-
-TEST(UndoRecord, DataRecordsGiveBackBothParts) {
+TEST(UndoRecord, DataRecordsGiveBackBothPartsAndMarkersHaveNone) {
+  EXPECT_EQ(parseUndoRecord(u"st1").kind, u"st1");
+  EXPECT_FALSE(parseUndoRecord(u"st1").data);
   for (const auto& [first, rest] : std::initializer_list<std::pair<TextView, TextView>>{
            {u"/music/a b.mp3", u"004 12"}, {u" 12", u""}, {u"", u"rest"}, {u"", u""}}) {
     const Text line = record(u"mov", first, rest);
@@ -111,11 +107,11 @@ TEST(UndoRecord, RowSnapshotComesBack) {
   track.pevacID3v2 = u"Artist";
   track.vrstaid3v2 = u"Opera";
   const Text text = rowSnapshot(table, 1);
+  EXPECT_EQ(text, u"101" + Text(18, u'0') + u"006Artist" + Text(12, u'0') +
+                      u"005Opera016/music/a - b.mp3002 3002 1");
   const auto parsed = parseRowSnapshot(text);
   ASSERT_TRUE(parsed);
-  EXPECT_TRUE(parsed->procitan);
-  EXPECT_FALSE(parsed->imaid3v1);
-  EXPECT_TRUE(parsed->imaid3v2);
+  EXPECT_TRUE(parsed->procitan && !parsed->imaid3v1 && parsed->imaid3v2);
   for (std::size_t i = 0; i < parsed->tags.size(); ++i)
     EXPECT_EQ(parsed->tags[i], (track.*snapshotColumns()[i]).text()) << i;
   EXPECT_EQ(parsed->path, u"/music/a - b.mp3");

@@ -23,35 +23,22 @@ class ID3v1 : public TagFixture {
 
 const test::SongTags tags{u"Harbour", u"Arvola", u"Northern Lights", u"1999", 7, {}};
 
-TEST(Genre, NamesAndTheGapInThem) {
-  EXPECT_EQ(GenreName(0), u"Blues");
-  EXPECT_EQ(GenreName(17), u"Rock");
-  EXPECT_EQ(GenreName(25), u"Euro - Techno");
-  EXPECT_EQ(GenreName(122), u"Drum Solo");
-  EXPECT_EQ(GenreName(123), u"");
-  EXPECT_EQ(GenreName(124), u"Euro - House");
-  EXPECT_EQ(GenreName(147), u"Synth Pop");
-  for (const int code : {148, 254, 255, -1, 1000}) EXPECT_EQ(GenreName(code), u"");
-}
-
-TEST(Genre, CodesAreFoundByExactNameFromOneUp) {
-  EXPECT_EQ(genreCode(u"Opera"), 103);
-  EXPECT_EQ(genreCode(u"Classic Rock"), 1);
-  EXPECT_FALSE(genreCode(u"Blues"));
-  EXPECT_FALSE(genreCode(u"opera"));
-  EXPECT_FALSE(genreCode(u"Opera "));
-  for (int code = 1; code < 123; ++code) EXPECT_EQ(genreCode(GenreName(code)), code);
-  for (int code = 124; code < 148; ++code) EXPECT_EQ(genreCode(GenreName(code)), code);
+TEST(Genre, NamesAndTheGapInThemAndCodesByExactNameFromOneUp) {
+  const std::pair<int, TextView> cases[] = {{0, u"Blues"},          {17, u"Rock"},
+                                            {25, u"Euro - Techno"}, {122, u"Drum Solo"},
+                                            {124, u"Euro - House"}, {147, u"Synth Pop"}};
+  for (const auto& [code, name] : cases) EXPECT_EQ(GenreName(code), name);
+  for (const int code : {123, 148, 254, 255, -1, 1000}) EXPECT_EQ(GenreName(code), u"");
+  for (const TextView none : {u"Blues", u"opera", u"Opera "}) EXPECT_FALSE(genreCode(none));
+  for (int code = 1; code < 148; ++code)
+    EXPECT_TRUE(code == 123 || genreCode(GenreName(code)) == code) << code;
 }
 
 TEST_F(ID3v1, ReadsItsFields) {
   const auto tag = tagOf(test::mpegFrames(2) + id3v1Tag(tags, 17, u"live"));
   EXPECT_TRUE(tag.HasID3v1Tag());
-  EXPECT_EQ(tag.Title, u"Harbour");
-  EXPECT_EQ(tag.Artist, u"Arvola");
-  EXPECT_EQ(tag.Album, u"Northern Lights");
-  EXPECT_EQ(tag.Year, u"1999");
-  EXPECT_EQ(tag.Comment, u"live");
+  EXPECT_EQ(tag.Title + u'|' + tag.Artist + u'|' + tag.Album + u'|' + tag.Year + u'|' + tag.Comment,
+            u"Harbour|Arvola|Northern Lights|1999|live");
   EXPECT_EQ(tag.Track, 7);
   EXPECT_EQ(tag.Genre, 17);
 }

@@ -19,17 +19,11 @@
 namespace velmora::tags {
 namespace {
 
-class IgnoringDialogs final : public platform::Dialogs {
- public:
-  platform::Answer message(const Text&, const Text&, platform::Buttons, platform::Icon) override {
-    return platform::Answer::Ignore;
-  }
-  std::optional<Text> input(const Text&, const Text&, const Text&) override { return {}; }
-  std::optional<Text> pickFolder(const Text&, const Text&) override { return {}; }
-};
-
 class TagFaults : public TagFixture {
  protected:
+  TagFaults() {
+    dialogs.otherwise = [](platform::Buttons) { return platform::Answer::Ignore; };
+  }
   using Job = std::function<void(platform::Files&, const Text& path)>;
 
   template <typename Tag>
@@ -41,7 +35,7 @@ class TagFaults : public TagFixture {
         tag.Title = u"Song";
       else
         tag.setTitle(u"Song");
-      tag.Update({ignoring, table});
+      tag.Update(context());
     };
   }
 
@@ -66,7 +60,6 @@ class TagFaults : public TagFixture {
     }
   }
 
-  IgnoringDialogs ignoring;
   const Bytes audio = test::mpegFrames(100);
   const Bytes oldTag = test::Id3v2Maker().text("TIT2", u"Old").padding(500).plainBytes();
 };
@@ -107,7 +100,7 @@ TEST_F(TagFaults, UpdateTagsKeepsTheFramesThatThePanelDoesNotShow) {
     TagCache cache(rows, faults);
     FilePanel panel(rows, faults, cache, form1);
     BusyFile busyFile(faults, desktop, form1.statusLabel);
-    TagWriter writer({rows, faults, ignoring, desktop, player, busyFile, panel, form1});
+    TagWriter writer({rows, faults, dialogs, desktop, player, busyFile, panel, form1});
     panel.info(path, 1);
     form1.tags.title.setText(u"New");
     form1.tags.writeID3v1.setChecked(true);

@@ -67,18 +67,23 @@ TEST_F(ListBoxTest, RemovingAndInsertingKeepsMarksOnTheirRows) {
   EXPECT_EQ(list.SelCount(), 0);
 }
 
-TEST_F(ListBoxTest, SortedListPlacesRowsWithoutRegardToCase) {
-  ListBox sorted(ListBox::Selection::Multi, true);
-  for (const char16_t* text : {u"beta", u"Alpha", u"gamma", u"alpha", u"BETA"}) sorted.AddItem(text);
-  EXPECT_EQ(texts(sorted), (std::vector<Text>{u"Alpha", u"alpha", u"beta", u"BETA", u"gamma"}));
-}
-
-TEST_F(ListBoxTest, SingleSelectionMovesTheOneMark) {
+TEST_F(ListBoxTest, ASingleListHasOneMarkAndADisabledOneListensToCodeAlone) {
   ListBox single(ListBox::Selection::Single);
   single.fill({u"a", u"b"});
   single.setListIndex(0);
   single.setListIndex(1);
   EXPECT_EQ(single.selectedIndexes(), (std::vector<int>{1}));
+  list.setEnabled(false);
+  list.select({1}, 1);
+  EXPECT_EQ(list.SelCount(), 0);
+  list.setSelected(1, true);
+  EXPECT_EQ(list.SelCount(), 1);
+}
+
+TEST_F(ListBoxTest, SortedListPlacesRowsWithoutRegardToCase) {
+  ListBox sorted(ListBox::Selection::Multi, true);
+  for (const char16_t* text : {u"beta", u"Alpha", u"gamma", u"alpha", u"BETA"}) sorted.AddItem(text);
+  EXPECT_EQ(texts(sorted), (std::vector<Text>{u"Alpha", u"alpha", u"beta", u"BETA", u"gamma"}));
 }
 
 TEST_F(ListBoxTest, FillingIsOneNoticeForTheView) {
@@ -87,14 +92,6 @@ TEST_F(ListBoxTest, FillingIsOneNoticeForTheView) {
   list.fill(std::vector<Text>(100'000, u"row"));
   EXPECT_EQ(notices, 1);
   EXPECT_EQ(clicks, 0);
-}
-
-TEST_F(ListBoxTest, DisabledListIgnoresTheUserButNotCode) {
-  list.setEnabled(false);
-  list.select({1}, 1);
-  EXPECT_EQ(list.SelCount(), 0);
-  list.setSelected(1, true);
-  EXPECT_EQ(list.SelCount(), 1);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/text.h"
 #include "system/posix_files.h"
 #include "tests/support/temp_folder.h"
 
@@ -17,37 +18,22 @@ struct OptionStoreTest : testing::Test {
 };
 
 TEST_F(OptionStoreTest, DesignStateStandsUntilSomethingIsStored) {
-  const auto& extensions = windows.form5.extensions;
   const std::vector<Text> atDesign = {u"mp3", u"mp2", u"mp1", u"wma", u"wav", u"ogg"};
-  for (std::size_t i = 0; i < extensions.size(); ++i) {
-    EXPECT_EQ(extensions[i].check.checked(), i < atDesign.size());
-    EXPECT_EQ(extensions[i].text.text(), i < atDesign.size() ? atDesign[i] : Text());
+  for (std::size_t i = 0; i < windows.form5.extensions.size(); ++i) {
+    EXPECT_EQ(windows.form5.extensions[i].check.checked(), i < atDesign.size());
+    EXPECT_EQ(windows.form5.extensions[i].text.text(), i < atDesign.size() ? atDesign[i] : Text());
   }
-  EXPECT_TRUE(windows.form5.refreshOldMusicList.checked());
-  EXPECT_TRUE(windows.dialog2.fix2.checked());
-  EXPECT_TRUE(windows.dialog2.fixo2.chosen());
-  EXPECT_TRUE(windows.form6.fixo7.chosen());
+  EXPECT_TRUE(windows.form5.refreshOldMusicList.checked() && windows.dialog2.fix2.checked());
+  EXPECT_TRUE(windows.dialog2.fixo2.chosen() && windows.form6.fixo7.chosen());
   EXPECT_FALSE(windows.form6.fix7.checked());
   EXPECT_TRUE(windows.form7.similarFilename.chosen());
   EXPECT_FALSE(settings.exists());
 }
 
-TEST_F(OptionStoreTest, ExtensionsAreStoredAsTheirStateAndText) {
-  windows.form5.extensions[1].check.setChecked(false);
-  windows.form5.extensions[6].text.setText(u"ape");
-  windows.form5.extensions[6].check.setChecked(true);
-  windows.form5.refreshOldMusicList.setChecked(false);
-  store.saveForm5();
-  EXPECT_EQ(settings.get(u"ex1a"), u" 1mp3");
-  EXPECT_EQ(settings.get(u"ex2"), u" 0mp2");
-  EXPECT_EQ(settings.get(u"ex7"), u" 0");
-  EXPECT_EQ(settings.get(u"ex8"), u" 1ape");
-  EXPECT_EQ(settings.get(u"ex13"), u" 0");
-}
-
 TEST_F(OptionStoreTest, WhatWasStoredComesBack) {
   Form5& form5 = windows.form5;
-  form5.extensions[0].check.setChecked(false);
+  form5.extensions[1].check.setChecked(false);
+  form5.extensions[11].check.setChecked(true);
   form5.extensions[11].text.setText(u"xm ");
   form5.refreshOldMusicList.setChecked(false);
   store.saveForm5();
@@ -59,25 +45,24 @@ TEST_F(OptionStoreTest, WhatWasStoredComesBack) {
   windows.dialog2.fixo3.setChosen(true);
   windows.dialog2.fixo4.setChosen(true);
   store.saveDialog2();
-  EXPECT_EQ(settings.get(u"fix16"), u"True");
-  EXPECT_EQ(settings.get(u"fix4"), u"False");
+  const std::pair<TextView, TextView> stored[] = {{u"ex1a", u" 1mp3"}, {u"ex2", u" 0mp2"},
+                                                  {u"ex7", u" 0"},     {u"ex13", u" 1xm "},
+                                                  {u"fix16", u"True"}, {u"fix4", u"False"}};
+  for (const auto& [key, value] : stored) EXPECT_EQ(settings.get(key), value) << core::toBytes(key);
 
   Windows fresh;
   OptionStore reader(settings, fresh);
   reader.loadForm5();
   reader.loadForm6();
   reader.loadDialog2();
-  EXPECT_FALSE(fresh.form5.extensions[0].check.checked());
+  EXPECT_FALSE(fresh.form5.extensions[1].check.checked());
   EXPECT_EQ(fresh.form5.extensions[11].text.text(), u"xm ");
   EXPECT_FALSE(fresh.form5.refreshOldMusicList.checked());
-  EXPECT_TRUE(fresh.form6.fix16.checked());
+  EXPECT_TRUE(fresh.form6.fix16.checked() && fresh.form6.fix5.checked());
   EXPECT_FALSE(fresh.form6.fix4.checked());
-  EXPECT_TRUE(fresh.form6.fix5.checked());
-  EXPECT_TRUE(fresh.form6.fixo8.chosen());
-  EXPECT_FALSE(fresh.form6.fixo7.chosen());
+  EXPECT_TRUE(fresh.form6.fixo8.chosen() && !fresh.form6.fixo7.chosen());
   EXPECT_TRUE(fresh.dialog2.fix13.checked());
-  EXPECT_TRUE(fresh.dialog2.fixo3.chosen());
-  EXPECT_TRUE(fresh.dialog2.fixo4.chosen());
+  EXPECT_TRUE(fresh.dialog2.fixo3.chosen() && fresh.dialog2.fixo4.chosen());
 }
 
 TEST_F(OptionStoreTest, LoadingForgetsWhatWasChangedAndNotStored) {

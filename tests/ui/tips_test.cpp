@@ -31,12 +31,6 @@ TEST_F(TipsTest, FirstTipIsTheOneThatChanceNamesAndNextGoesRound) {
   EXPECT_EQ(shown(), u"two, with a comma");
 }
 
-TEST_F(TipsTest, OneTipStays) {
-  loadTips("\"only\"\r\n");
-  tips.next();
-  EXPECT_EQ(shown(), u"only");
-}
-
 TEST_F(TipsTest, LinesWithoutQuotesAreTipsAsTheUserTypedThem) {
   loadTips("\xEF\xBB\xBFUse Add, then F12\n\n  second  \n");
   EXPECT_EQ(shown(), u"Use Add, then F12");
