@@ -29,6 +29,8 @@ int kills(int usual) {
   return asked ? std::atoi(asked) : usual;
 }
 
+using Places = test::BaseHouse::Places;
+
 /// One run of the program with songs that can be told apart by their audio.
 class Victim : public test::RepairHouse {
  public:
@@ -51,6 +53,13 @@ class Victim : public test::RepairHouse {
     program.addFolder(program.folder.path(u"music/in"));
     form1().tags.writeID3v1.setChecked(true);
     form1().tags.writeID3v2.setChecked(true);
+    namesBefore = songNames();
+    tagsBefore = songTags();
+  }
+  void startAgain() {
+    program.startInProcessingWindow();
+    EXPECT_TRUE(form1().visible());
+    EXPECT_TRUE(form1().enabled());
   }
   void fixSyntax() {
     selectAll();
@@ -83,6 +92,11 @@ class Victim : public test::RepairHouse {
     }
     return found;
   }
+  Places places() {
+    Places places;
+    for (const auto& [number, name] : songNames()) places[std::to_string(number)] = {name};
+    return places;
+  }
   /// The texts of all tags as another program would read them.
   std::map<int, std::string> songTags() {
     std::map<int, std::string> tags;
@@ -92,6 +106,9 @@ class Victim : public test::RepairHouse {
     }
     return tags;
   }
+
+  Names namesBefore;
+  std::map<int, std::string> tagsBefore;
 
  private:
   static constexpr int songs = 8;
@@ -103,8 +120,6 @@ class Victim : public test::RepairHouse {
   std::vector<Bytes> audio_;
 };
 
-using Command = void (Victim::*)();
-
 /// New music on another volume than the base.
 class BaseVictim : public test::BaseHouse {
  public:
@@ -112,7 +127,15 @@ class BaseVictim : public test::BaseHouse {
   void start() {
     program.dialogs.otherwise = [](platform::Buttons) { return platform::Answer::Ok; };
     BaseHouse::start();
+    placesBefore = places();
   }
+  void startAgain() {
+    program.start();
+    EXPECT_TRUE(form3().visible());
+    form3().showNewMusic.click();
+    expectAtRest();
+  }
+  void undoAll() { BaseHouse::undoAll(); }
   void moveGenres() {
     form2().List1.select({2, 3}, 3);
     pressInNewMusic(form2().moveGenre);
@@ -129,6 +152,8 @@ class BaseVictim : public test::BaseHouse {
     form3().Text2.setText(u"Lumo");
     pressInBase(form3().artists.ren);
   }
+
+  Places placesBefore;
 };
 
 struct Life {
@@ -162,133 +187,43 @@ Life runAndKill(Program& victim, void (Program::*command)(), std::optional<micro
   return {std::chrono::duration_cast<microseconds>(steady_clock::now() - began), WIFSIGNALED(status)};
 }
 
-class Kill : public testing::Test {
+template <typename Program>
+class Torment : public testing::Test {
  protected:
-  /// What the command makes of the names, and how long it takes at least.
-  void rehearse(Command before, Command command) {
-    for (int i = 0; i < 3; ++i) {
-      Victim victim;
-      victim.start();
-      if (before) (victim.*before)();
-      lifetime_ = std::min(lifetime_, runAndKill(victim, command, {}).length);
-      namesAfter_ = victim.songNames();
-    }
-  }
+  using Step = void (Program::*)();
 
   /// Kills the command again and again; `check` sees the program started afresh after each.
-  void torment(Command before, Command command, const std::function<void(Victim&)>& check) {
-    rehearse(before, command);
-    std::mt19937 random(7);
-    int cutShort = 0;
-    for (int i = 0; i < kills(10) && !HasFailure(); ++i) {
-      Victim victim;
-      victim.start();
-      namesBefore_ = victim.songNames();
-      tagsBefore_ = victim.songTags();
-      if (before) (victim.*before)();
-      const Victim::Names namesAtStart = victim.songNames();
-      const microseconds delay(random() % static_cast<unsigned>(lifetime_.count()));
-      SCOPED_TRACE("kill " + std::to_string(i) + " after " + std::to_string(delay.count()) + " us");
-      cutShort += runAndKill(victim, command, delay).cutShort;
-      const Victim::Names left = victim.songNames();
-      for (const auto& [number, name] : left)
-        EXPECT_TRUE(name == namesAtStart.at(number) || name == namesAfter_.at(number))
-            << "song " << number << " is now \"" << name << '"';
-      victim.program.forget();
-      victim.program.startInProcessingWindow();
-      EXPECT_TRUE(victim.form1().visible());
-      EXPECT_TRUE(victim.form1().enabled());
-      check(victim);
-    }
-    RecordProperty("cut short", cutShort);
-  }
-  /// A song that was just being changed may have changed without a record.
-  template <typename Values>
-  static int differences(const Values& left, const Values& right) {
-    int count = 0;
-    for (const auto& [number, value] : left) count += right.at(number) != value;
-    return count;
-  }
-
-  /// The songs that the table has, and those of the folder, which may hold an unfinished copy too.
-  static std::set<std::string> listedIn(Victim& victim) {
-    std::set<std::string> names;
-    for (const std::string& name : victim.listed()) names.insert(name + ".mp3");
-    return names;
-  }
-  static std::set<std::string> namesIn(Victim& victim) {
-    std::set<std::string> names;
-    for (const auto& [number, name] : victim.songNames()) names.insert(name);
-    return names;
-  }
-
-  Victim::Names namesBefore_, namesAfter_;
-  std::map<int, std::string> tagsBefore_;
-  microseconds lifetime_ = microseconds::max();
-};
-
-TEST_F(Kill, FixSyntaxLosesNoSongAndIsTakenBack) {
-  torment(&Victim::growTags, &Victim::fixSyntax, [this](Victim& victim) {
-    victim.undoAll();
-    EXPECT_LE(differences(victim.songNames(), namesBefore_), 1);
-    EXPECT_LE(differences(victim.songTags(), tagsBefore_), 1);
-  });
-}
-
-TEST_F(Kill, TagsThatGrowAFileLeaveTheOldSongOrTheNewOne) {
-  torment(nullptr, &Victim::growTags, [this](Victim& victim) {
-    victim.undoAll();
-    EXPECT_EQ(victim.songNames(), namesBefore_);
-    EXPECT_LE(differences(victim.songTags(), tagsBefore_), 1);
-  });
-}
-
-TEST_F(Kill, UndoIsBroughtToItsEndByTheNextOne) {
-  torment(&Victim::bothCommands, &Victim::undoAll, [this](Victim& victim) {
-    victim.undoAll();
-    EXPECT_EQ(victim.songNames(), namesBefore_);
-    EXPECT_EQ(victim.songTags(), tagsBefore_);
-    EXPECT_EQ(listedIn(victim), namesIn(victim));
-  });
-}
-
-class BaseKill : public testing::Test {
- protected:
-  using Places = test::BaseHouse::Places;
-  using Step = void (BaseVictim::*)();
-
-  /// Kills the command again and again; `check` sees the program started afresh after each.
-  void torment(Step before, Step command, const std::function<void(BaseVictim&)>& check) {
+  void torment(Step before, Step command, int usualKills, const std::function<void(Program&)>& check) {
     const auto [operations, lifetime] = rehearse(before, command);
     std::mt19937 random(7);
     int cutShort = 0;
-    for (int i = 0; i < kills(6) && !HasFailure(); ++i) {
-      BaseVictim victim;
+    for (int i = 0; i < kills(usualKills) && !HasFailure(); ++i) {
+      Program victim;
       prepare(victim, before);
       const Places atStart = victim.places();
-      const auto moment = static_cast<unsigned>(random());
-      SCOPED_TRACE("kill " + std::to_string(i) + " at " + std::to_string(moment));
       // Just ahead of an operation, all over the command, or at any time, when one may be under way.
-      std::optional<microseconds> delay;
-      if (i % 2 == 0)
-        killAhead(victim, static_cast<unsigned>(i) * operations / static_cast<unsigned>(kills(6)));
-      else
-        delay = microseconds(moment % static_cast<unsigned>(lifetime.count()));
-      cutShort += runAndKill(victim, command, delay).cutShort;
+      const unsigned operation =
+          static_cast<unsigned>(i) * operations / static_cast<unsigned>(kills(usualKills));
+      const microseconds delay(random() % static_cast<unsigned>(lifetime.count()));
+      SCOPED_TRACE("kill " + std::to_string(i) + " at operation " + std::to_string(operation) + " or after " +
+                   std::to_string(delay.count()) + " us");
+      if (i % 2 == 0) killAhead(victim, operation);
+      cutShort += runAndKill(victim, command, i % 2 == 0 ? std::nullopt : std::optional(delay)).cutShort;
       victim.program.faults.onOperation = nullptr;
       expectWhole(victim.places(), atStart);
       victim.program.forget();
-      victim.program.start();
-      EXPECT_TRUE(victim.form3().visible());
-      victim.form3().showNewMusic.click();
-      victim.expectAtRest();
+      victim.startAgain();
       check(victim);
     }
-    RecordProperty("cut short", cutShort);
+    this->RecordProperty("cut short", cutShort);
   }
+
+  Places after_;  // of the command
+
+ private:
   /// What the command makes of the places, how many operations that takes, and how long.
   std::pair<unsigned, microseconds> rehearse(Step before, Step command) {
-    BaseVictim victim;
+    Program victim;
     prepare(victim, before);
     const int first = victim.program.faults.operations();
     const auto began = steady_clock::now();
@@ -297,14 +232,13 @@ class BaseKill : public testing::Test {
     after_ = victim.places();
     return {static_cast<unsigned>(victim.program.faults.operations() - first), length};
   }
-  static void killAhead(BaseVictim& victim, unsigned operation) {
+  static void killAhead(Program& victim, unsigned operation) {
     victim.program.faults.onOperation = [left = operation]() mutable {
       if (left-- == 0) ::raise(SIGKILL);
     };
   }
-  void prepare(BaseVictim& victim, Step before) {
+  static void prepare(Program& victim, Step before) {
     victim.start();
-    before_ = victim.places();
     if (before) (victim.*before)();
   }
   /// Each file lies at its old place, its new one, or on the way in a holding folder.
@@ -317,49 +251,96 @@ class BaseKill : public testing::Test {
             << *from.begin() << " is now " << place;
     }
   }
-  /// All is as before, save the files that were just on their way.
-  void expectBack(BaseVictim& victim, int onTheirWay) {
-    const Places now = victim.places();
-    int differ = 0;
-    for (const auto& [content, where] : before_) {
-      ASSERT_TRUE(now.contains(content)) << "lost: " << *where.begin();
-      differ += now.at(content) != where;
-    }
-    EXPECT_LE(differ, onTheirWay);
-    std::set<Text> listed;
-    const core::TrackTable& table = victim.program.table();
-    for (int row = 1; row <= table.brojfajlova(); ++row)
-      EXPECT_TRUE(listed.insert(table.path(row)).second)
-          << "twice in the list: " << core::toBytes(table.path(row));
-    EXPECT_EQ(listed.size(), 10);
-  }
-
-  Places before_, after_;
 };
 
-TEST_F(BaseKill, AMoveAcrossVolumesLosesNoSongAndIsTakenBack) {
-  torment(nullptr, &BaseVictim::moveGenres, [this](BaseVictim& victim) {
+using Kill = Torment<Victim>;
+using BaseKill = Torment<BaseVictim>;
+
+/// A song that was just being changed may have changed without a record.
+template <typename Values>
+int differences(const Values& left, const Values& right) {
+  int count = 0;
+  for (const auto& [number, value] : left) count += right.at(number) != value;
+  return count;
+}
+
+/// The songs that the table has, and those of the folder, which may hold an unfinished copy too.
+std::set<std::string> listedIn(Victim& victim) {
+  std::set<std::string> names;
+  for (const std::string& name : victim.listed()) names.insert(name + ".mp3");
+  return names;
+}
+std::set<std::string> namesIn(Victim& victim) {
+  std::set<std::string> names;
+  for (const auto& [number, name] : victim.songNames()) names.insert(name);
+  return names;
+}
+
+TEST_F(Kill, FixSyntaxLosesNoSongAndIsTakenBack) {
+  torment(&Victim::growTags, &Victim::fixSyntax, 10, [](Victim& victim) {
     victim.undoAll();
-    expectBack(victim, 1);
+    EXPECT_LE(differences(victim.songNames(), victim.namesBefore), 1);
+    EXPECT_LE(differences(victim.songTags(), victim.tagsBefore), 1);
+  });
+}
+
+TEST_F(Kill, TagsThatGrowAFileLeaveTheOldSongOrTheNewOne) {
+  torment(nullptr, &Victim::growTags, 10, [](Victim& victim) {
+    victim.undoAll();
+    EXPECT_EQ(victim.songNames(), victim.namesBefore);
+    EXPECT_LE(differences(victim.songTags(), victim.tagsBefore), 1);
+  });
+}
+
+TEST_F(Kill, UndoIsBroughtToItsEndByTheNextOne) {
+  torment(&Victim::bothCommands, &Victim::undoAll, 10, [](Victim& victim) {
+    victim.undoAll();
+    EXPECT_EQ(victim.songNames(), victim.namesBefore);
+    EXPECT_EQ(victim.songTags(), victim.tagsBefore);
+    EXPECT_EQ(listedIn(victim), namesIn(victim));
+  });
+}
+
+/// All is as before, save a file that was just on its way.
+void expectBack(BaseVictim& victim) {
+  const Places now = victim.places();
+  int differ = 0;
+  for (const auto& [content, where] : victim.placesBefore) {
+    ASSERT_TRUE(now.contains(content)) << "lost: " << *where.begin();
+    differ += now.at(content) != where;
+  }
+  EXPECT_LE(differ, 1);
+  std::set<Text> listed;
+  const core::TrackTable& table = victim.program.table();
+  for (int row = 1; row <= table.brojfajlova(); ++row)
+    EXPECT_TRUE(listed.insert(table.path(row)).second)
+        << "twice in the list: " << core::toBytes(table.path(row));
+  EXPECT_EQ(listed.size(), 10);
+}
+
+TEST_F(BaseKill, AMoveAcrossVolumesLosesNoSongAndIsTakenBack) {
+  torment(nullptr, &BaseVictim::moveGenres, 6, [](BaseVictim& victim) {
+    victim.undoAll();
+    expectBack(victim);
   });
 }
 
 TEST_F(BaseKill, UndoOfAMoveIsBroughtToItsEndByTheNextOne) {
-  torment(&BaseVictim::moveGenres, &BaseVictim::undoAll, [this](BaseVictim& victim) {
+  torment(&BaseVictim::moveGenres, &BaseVictim::undoAll, 6, [](BaseVictim& victim) {
     victim.undoAll();
-    expectBack(victim, 1);
+    expectBack(victim);
   });
 }
 
 TEST_F(BaseKill, ARenameOfCapitalsIsBroughtToItsEndFromTheHoldingFolder) {
-  torment(nullptr, &BaseVictim::respellGenre, [this](BaseVictim& victim) {
+  torment(nullptr, &BaseVictim::respellGenre, 6, [this](BaseVictim& victim) {
     victim.respellGenre();
     EXPECT_TRUE(victim.places() == after_);
   });
 }
 
 TEST_F(BaseKill, AMergeOfArtistsIsBroughtToItsEndByTheNextOne) {
-  torment(nullptr, &BaseVictim::mergeArtists, [this](BaseVictim& victim) {
+  torment(nullptr, &BaseVictim::mergeArtists, 6, [this](BaseVictim& victim) {
     victim.mergeArtists();
     EXPECT_TRUE(victim.places() == after_);
   });
