@@ -208,6 +208,19 @@ TEST_F(DataFolderTest, AfterAChangeThatWasCutShortNoRowIsTakenForRead) {
   EXPECT_TRUE(loaded.track(1).procitan.isTrue());
 }
 
+TEST_F(DataFolderTest, ACountOfAChangeThatWasCutShortIsNotThatOfTheRows) {
+  fill();
+  data.savenizove(table);
+  data.writeList(u"bazaniz.txt", table.bazaniz);
+  data.beginChange();
+  for (const int ofOtherRows : {1, 4}) {
+    settings.setNumber(u"ghb", ofOtherRows);
+    TrackTable loaded;
+    load(loaded);
+    EXPECT_EQ(loaded.brojfajlova(), 3);
+  }
+}
+
 TEST_F(DataFolderTest, AnyBytesLoad) {
   Bytes binary;
   for (int i = 0; i < 4000; ++i) binary += static_cast<char>(i * 37 % 251);
