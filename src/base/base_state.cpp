@@ -4,8 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "core/number_text.h"
-#include "core/text.h"
+#include "base/state_fields.h"
 #include "list/quiet_lists.h"
 #include "ui/list_state.h"
 
@@ -41,13 +40,10 @@ void listTitles(ui::Form3& form3, core::TrackTable& table) {
 
 Text StanjeLista(const ui::Form3& form3) {
   Text state;
-  for (const ui::ListBox* list : {&form3.List1, &form3.List2, &form3.List3, &form3.List4}) {
-    for (const int row : list->selectedIndexes()) state.append(core::number(std::int64_t{row})).append(u",");
-    if (list->SelCount() > 0) state.pop_back();
-    state += u':';
-  }
+  for (const ui::ListBox* list : {&form3.List1, &form3.List2, &form3.List3, &form3.List4})
+    state += selectedField(*list);
   for (const ui::ListBox* list : {&form3.List1, &form3.List2, &form3.List3, &form3.List8})
-    state.append(core::number(std::int64_t{list->TopIndex()})).append(u":");
+    state += topField(*list);
   return state;
 }
 

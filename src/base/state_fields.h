@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/text.h"
 #include "ui/list_box.h"
 
