@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "core/text.h"
 #include "tags/id3v2.h"
@@ -196,6 +198,21 @@ TEST_F(ID3v2Write, DamagedSongsKeepTheirAudio) {
     EXPECT_GE(folder.read(u"song.mp3").size(), song.bytes.size());
     EXPECT_EQ(files.list(folder.path()).entries.size(), 1U);
   }
+}
+
+TEST_F(ID3v2Write, GrowthKeepsModeAndFollowsLinks) {
+  auto tag = tagOf(audio);
+  ASSERT_EQ(::chmod(folder.native(u"song.mp3").c_str(), 0640), 0);
+  ASSERT_EQ(::symlink("song.mp3", folder.native(u"link.mp3").c_str()), 0);
+  tag.setMP3File(folder.path(u"link.mp3"));
+  tag.setTitle(u"Song");
+  EXPECT_EQ(tag.Update(context()), UpdateResult::Done);
+  EXPECT_EQ(folder.read(u"song.mp3").size(), audio.size() + 2048);
+  struct stat song, link;
+  ASSERT_EQ(::lstat(folder.native(u"song.mp3").c_str(), &song), 0);
+  ASSERT_EQ(::lstat(folder.native(u"link.mp3").c_str(), &link), 0);
+  EXPECT_EQ(song.st_mode & 07777, 0640U);
+  EXPECT_TRUE(S_ISLNK(link.st_mode));
 }
 
 TEST_F(ID3v2Write, TheFileOfTheGrowthOverwritesNobody) {
