@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <functional>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -23,6 +24,7 @@ namespace {
 
 constexpr std::uint64_t seed = 20;
 constexpr int baseFilesPerNewFile = 4;
+constexpr BaseShape largeShape;
 
 struct Options {
   std::vector<int> sizes = {10000, 20000, 40000};
@@ -72,42 +74,78 @@ bool wanted(const Options& options, const Job& job) {
 
 /// The made collections of one size, and a place for what the jobs change.
 struct Place {
-  std::string newMusic, repairMusic, base, state, copy;
+  std::string newMusic, readyMusic, repairMusic, base, largeBase, state, copy;
 
-  Scene sceneFor(const Job& job) const { return {job.music == Music::New ? newMusic : copy, base, state}; }
+  Scene sceneFor(const Job& job) const {
+    switch (job.music) {
+      case Music::New:
+        return {newMusic, base, state};
+      case Music::Ready:
+        return {readyMusic, largeBase, state};
+      case Music::Base:
+        return {{}, largeBase, state};
+      default:
+        return {copy, base, state};
+    }
+  }
 };
 
 /// Makes what is not there yet: a folder that is given keeps its collections for later runs.
-Place prepare(const std::string& folder, int files) {
+void makeOnce(const std::string& folder, const std::function<void()>& make) {
+  const std::string done = folder + " is made";
+  if (std::filesystem::exists(done)) return;
+  std::fprintf(stderr, "making %s ...\n", folder.c_str());
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder);
+  make();
+  std::filesystem::create_directory(done);
+}
+
+std::string prepareLargeBase(const std::string& folder) {
+  const std::string base = folder + "/Large Base";
+  makeOnce(base, [&] { makeEmptyBase(base, largeShape, seed); });
+  return base;
+}
+
+Place prepare(const std::string& folder, int files, const std::string& largeBase) {
   const std::string own = folder + "/" + std::to_string(files);
-  const Place place{own + "/New music", own + "/Repair", own + "/Music Base", own + "/state", own + "/copy"};
-  if (!std::filesystem::exists(own + "/made")) {
-    std::fprintf(stderr, "making collections of %d files and a base of %d ...\n", files,
-                 files * baseFilesPerNewFile);
-    std::filesystem::remove_all(own);
-    makeNewMusic(place.newMusic, files, seed);
-    makeRepairMusic(place.repairMusic, files, seed);
-    makeBase(place.base, files * baseFilesPerNewFile, seed);
-    std::filesystem::create_directory(own + "/made");
-  }
+  Place place{own + "/New music", own + "/Ready", own + "/Repair", own + "/Music Base",
+              largeBase,          own + "/state", own + "/copy"};
+  makeOnce(place.newMusic, [&] { makeNewMusic(place.newMusic, files, seed); });
+  makeOnce(place.readyMusic, [&] { makeReadyMusic(place.readyMusic, files, seed); });
+  makeOnce(place.repairMusic, [&] { makeRepairMusic(place.repairMusic, files, seed); });
+  makeOnce(place.base, [&] { makeBase(place.base, files * baseFilesPerNewFile, seed); });
   return place;
 }
 
 /// The jobs that leave the music as it is come before those that change it: what those leave to be written to
 /// the disk would disturb the others.
-enum class Phase { Reading, Changing };
+enum class Phase { Browsing, Reading, Changing };
+
+Phase phaseOf(const Job& job) {
+  if (job.music == Music::Base) return Phase::Browsing;
+  return job.music == Music::New || job.music == Music::Ready ? Phase::Reading : Phase::Changing;
+}
+
+bool anyWanted(const Options& options, Phase phase) {
+  return std::ranges::any_of(jobs(),
+                             [&](const Job& job) { return phaseOf(job) == phase && wanted(options, job); });
+}
+
+void copyAfresh(const std::string& from, const std::string& to) {
+  std::filesystem::remove_all(to);
+  std::filesystem::copy(from, to, std::filesystem::copy_options::recursive);
+}
 
 void runRound(const Options& options, Phase phase, const Place& place, Series& into) {
   for (const Job& job : jobs()) {
-    if (!wanted(options, job) || (job.music == Music::New) != (phase == Phase::Reading)) continue;
-    if (job.music == Music::Repair) {
-      std::filesystem::remove_all(place.copy);
-      std::filesystem::copy(place.repairMusic, place.copy, std::filesystem::copy_options::recursive);
-    }
+    if (!wanted(options, job) || phaseOf(job) != phase) continue;
+    if (job.music == Music::Repair) copyAfresh(place.repairMusic, place.copy);
+    if (job.music == Music::Filed) copyAfresh(place.readyMusic, place.copy);
     const Scene scene = place.sceneFor(job);
     // What can be done twice counts the second time, with the system's caches and free memory as it left
     // them.
-    if (phase == Phase::Reading) runInChild(job, scene);
+    if (phase != Phase::Changing) runInChild(job, scene);
     const Outcome outcome = runInChild(job, scene);
     into.outcomes[job.name].push_back(outcome);
   }
@@ -119,19 +157,26 @@ int run(const Options& options) {
       options.folder.empty()
           ? (std::filesystem::temp_directory_path() / ("velmora_bench." + std::to_string(getpid()))).string()
           : std::filesystem::absolute(options.folder).string();
+  const std::string base = prepareLargeBase(folder);
+  Series browsing{largeShape.songs, {}};
+  const Place browsed{{}, {}, {}, {}, base, folder + "/state", folder + "/copy"};
+  if (anyWanted(options, Phase::Browsing))
+    for (int round = 0; round < options.rounds; ++round)
+      runRound(options, Phase::Browsing, browsed, browsing);
   std::vector<Place> places;
   std::vector<Series> sizes;
   for (const int files : options.sizes) {
-    places.push_back(prepare(folder, files));
+    places.push_back(prepare(folder, files, base));
     sizes.push_back({files, {}});
   }
   for (const Phase phase : {Phase::Reading, Phase::Changing}) {
+    if (!anyWanted(options, phase)) continue;
     for (int round = 0; round < options.rounds; ++round) {
       for (std::size_t i = 0; i < sizes.size(); ++i) runRound(options, phase, places[i], sizes[i]);
     }
   }
   if (options.folder.empty()) std::filesystem::remove_all(folder);
-  const int missed = report(sizes);
+  const int missed = report(browsing, sizes);
   return options.check && missed > 0 ? 1 : 0;
 }
 

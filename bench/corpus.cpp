@@ -1,10 +1,14 @@
 #include "bench/corpus.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 #include <unistd.h>
+#include <unordered_set>
+#include <vector>
 
 #include "bench/random.h"
 #include "bench/song_bytes.h"
@@ -62,6 +66,17 @@ std::string albumFolder(const Album& album, Random& random) {
     default:
       return asFileName(album.artist) + "/" + year + " " + asFileName(album.title);
   }
+}
+
+constexpr std::array<std::string_view, 8> genreWords = {"Rock",  "Pop",   "Jazz",  "Folk",
+                                                        "Metal", "House", "Blues", "Techno"};
+constexpr std::array<std::string_view, 5> genreKinds = {"", "Acid ", "Classic ", "Hard ", "Slow "};
+
+/// `genres` names, all different up to forty of them.
+std::string genreName(int genre) {
+  const auto number = static_cast<std::size_t>(genre);
+  const std::size_t kind = number / genreWords.size() % genreKinds.size();
+  return std::string(genreKinds[kind]) + std::string(genreWords[number % genreWords.size()]);
 }
 
 }  // namespace
@@ -126,6 +141,61 @@ CorpusCounts makeBase(const std::string& folder, int songs, std::uint64_t seed) 
       const Song song = songOf(album, i);
       place(into, asFileName(song.artist + " - " + song.title) + ".mp3", songBytes(song, random));
       ++counts.songs;
+    }
+  }
+  return counts;
+}
+
+CorpusCounts makeReadyMusic(const std::string& folder, int songs, std::uint64_t seed) {
+  CorpusCounts counts;
+  Random random(seed ^ 0x726479U);
+  AlbumMaker albums(seed);
+  const auto put = [&counts](const std::string& into, const Song& song, const std::string& bytes) {
+    place(into, asFileName(song.artist + " - " + song.title) + ".mp3", bytes);
+    ++counts.songs;
+  };
+  for (int number = 0; counts.songs < songs; ++number) {
+    Album album = albums.next();
+    if (number % 10 == 0) album.artist = busyArtist;
+    const std::string into = folder + "/" + asFileName(album.artist + " - " + album.title);
+    std::filesystem::create_directories(into);
+    for (std::size_t i = 0; i < album.songs.size() && counts.songs < songs; ++i) {
+      const Song song = songOf(album, i);
+      put(into, song, repairSongBytes(song, random));
+    }
+  }
+  const std::string apart = folder + "/" + untagged;
+  std::filesystem::create_directories(apart);
+  const int all = songs + songs / 20;
+  while (counts.songs < all) {
+    const Album album = albums.next();
+    for (std::size_t i = 0; i < album.songs.size() && counts.songs < all; ++i)
+      put(apart, songOf(album, i), std::string(4000, '\0'));
+  }
+  return counts;
+}
+
+CorpusCounts makeEmptyBase(const std::string& folder, const BaseShape& shape, std::uint64_t seed) {
+  CorpusCounts counts;
+  AlbumMaker albums(seed);
+  std::vector<std::string> artists;
+  std::unordered_set<std::string> names;
+  while (static_cast<int>(artists.size()) < shape.artists) {
+    std::string artist = asFileName(albums.next().artist);
+    if (!names.insert(artist).second) continue;
+    artists.push_back(genreName(static_cast<int>(artists.size()) % shape.genres) + "/" + artist);
+  }
+  const int songsPerAlbum = shape.songs / shape.albums;
+  for (int number = 0; number < shape.albums; ++number) {
+    const Album album = albums.next();
+    const std::string& artist = artists[static_cast<std::size_t>(number % shape.artists)];
+    const std::string into = folder + "/" + artist + "/" + asFileName(album.title) + " " +
+                             std::to_string(number) + "-" + std::to_string(album.year);
+    std::filesystem::create_directories(into);
+    const std::string name = artist.substr(artist.find('/') + 1) + " - ";
+    for (int i = 0; i < songsPerAlbum; ++i, ++counts.songs) {
+      const std::string& title = album.songs[static_cast<std::size_t>(i) % album.songs.size()];
+      place(into, name + asFileName(title) + ".mp3", "");
     }
   }
   return counts;

@@ -22,4 +22,19 @@ CorpusCounts makeRepairMusic(const std::string& folder, int songs, std::uint64_t
 /// A base: Genre/Artist/Album-Year/file, well named. Shares artists with the new music of the same seed.
 CorpusCounts makeBase(const std::string& folder, int songs, std::uint64_t seed);
 
+/// Music that is ready to be filed: named "Artist - Title", with both tags. Every tenth album is by one
+/// artist, `busyArtist`. Beside it lies a twentieth more in the folder `untagged`, without any tag.
+CorpusCounts makeReadyMusic(const std::string& folder, int songs, std::uint64_t seed);
+inline constexpr const char* busyArtist = "Various Arvola";
+inline constexpr const char* untagged = "untagged";
+
+struct BaseShape {
+  int genres = 40;
+  int artists = 4000;
+  int albums = 10000;
+  int songs = 100000;
+};
+/// A base for jobs that list it and open no file: its songs are empty.
+CorpusCounts makeEmptyBase(const std::string& folder, const BaseShape& shape, std::uint64_t seed);
+
 }  // namespace velmora::bench

@@ -71,6 +71,8 @@ class HeadlessProgram {
   void start();
   void end() { program_->requestEnd(); }
   ui::Form1& form1() { return program_->windows().form1; }
+  ui::Form2& form2() { return program_->windows().form2; }
+  ui::Form3& form3() { return program_->windows().form3; }
   core::TrackTable& table() { return program_->table(); }
 
  private:

@@ -10,7 +10,7 @@ namespace velmora::bench {
 /// What a job works on. All folders are full paths.
 struct Scene {
   std::string music;  ///< a collection to work on
-  std::string base;   ///< a Music Base of four times as many files
+  std::string base;   ///< a Music Base of four times as many files; for a job on Music::Base, that one
   std::string state;  ///< program folder, kept from job to job within one round
 };
 
@@ -26,10 +26,31 @@ inline Measured measured(const StopWatch& watch, int files, int tableRows) {
   return {watch.seconds(), watch.processorSeconds(), files, tableRows};
 }
 
+/// The time of several stretches together; what lies between them does not count.
+class Laps {
+ public:
+  template <typename Lap>
+  void time(const Lap& lap) {
+    const StopWatch watch;
+    lap();
+    sum_.seconds += watch.seconds();
+    sum_.processorSeconds += watch.processorSeconds();
+    ++sum_.files;
+  }
+  /// The count is that of the stretches.
+  const Measured& measured() const { return sum_; }
+
+ private:
+  Measured sum_;
+};
+
 /// The music that a job works on.
 enum class Music {
   New,     ///< music as it comes, shared by all jobs, which must leave it as it is
+  Ready,   ///< music that is ready to be filed, shared likewise
+  Base,    ///< none, but a Music Base of 100,000 files, whatever the sizes of the other collections
   Repair,  ///< a fresh copy of music in which every name wants repair, for the job to change
+  Filed,   ///< a fresh copy of music that is ready to be filed, for the job to change
   Left     ///< that copy as the jobs before left it
 };
 
@@ -44,6 +65,7 @@ struct Job {
   double mostRatio = 0;         ///< the target for time / yardstick; 0 for none
   double mostSlope = 0;         ///< the target for the time of twice as many files / the time; 0 for none
   double mostMilliseconds = 0;  ///< the target for the time itself; 0 for none
+  int mostFiles = 0;            ///< the largest collection that this target is for; 0 for any
 };
 
 /// All jobs in the order of a round: a job may stand on the state that an earlier one left.

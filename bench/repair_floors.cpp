@@ -5,8 +5,11 @@
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
+#include "bench/corpus.h"
+#include "bench/new_music_jobs.h"
 #include "bench/repair_jobs.h"
 
 namespace velmora::bench {
@@ -18,6 +21,8 @@ constexpr std::size_t id3v1Bytes = 128;
 constexpr std::size_t renameLineBytes = 180;
 constexpr std::size_t tagLineBytes = 240;
 constexpr std::size_t infoBytes = 150;
+constexpr std::size_t removalLineBytes = 330;
+constexpr std::size_t moveLineBytes = 220;
 
 /// As many files of the collection as the list can show, and so a command can be given.
 std::vector<std::string> filesOf(const std::string& folder) {
@@ -103,6 +108,31 @@ Measured floorOfDelete(const Scene& scene) {
   }
   const Measured result = measured(watch, number, 0);
   std::filesystem::remove_all(trash);
+  return result;
+}
+
+Measured floorOfMove(const Scene& scene) {
+  const std::string base = scene.state + "/floor base";
+  std::filesystem::remove_all(base);
+  std::filesystem::create_directories(base);
+  const std::string journal = scene.state + "/floor.txt";
+  std::vector<std::pair<std::string, std::string>> moves;
+  for (const auto& folder : std::filesystem::directory_iterator(scene.music)) {
+    const std::string name = folder.path().filename().native();
+    if (name == untagged) continue;
+    std::filesystem::create_directory(base + "/" + name);
+    for (const auto& file : std::filesystem::directory_iterator(folder))
+      moves.emplace_back(file.path().native(), base + "/" + name + "/" + file.path().filename().native());
+  }
+  const StopWatch watch;
+  for (const auto& [from, to] : moves) {
+    appendLine(journal, removalLineBytes);
+    renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+    appendLine(journal, moveLineBytes);
+  }
+  const Measured result = measured(watch, static_cast<int>(moves.size()), 0);
+  std::filesystem::remove_all(base);
+  std::filesystem::remove(journal);
   return result;
 }
 

@@ -67,6 +67,7 @@ double printRatio(const Series& above, const char* job, const Series& below, con
 }
 
 void printTimes(const Series& series, int& missed) {
+  if (series.outcomes.empty()) return;
   std::printf("\n%d files\n  %-16s %9s %12s %9s   %s\n", series.files, "job", "seconds", "us per file",
               "peak MiB", "times its yardstick (in processor time)");
   for (const Job& job : jobs()) {
@@ -79,7 +80,9 @@ void printTimes(const Series& series, int& missed) {
       printTarget(printRatio(series, job.name, series, job.against), job.mostRatio, missed);
       std::printf("  of %s", job.against);
     }
-    printTarget(seconds * 1000, job.mostMilliseconds, missed);
+    const bool counts = job.mostFiles == 0 || series.files <= job.mostFiles;
+    if (counts && job.mostMilliseconds > 0) std::printf("  %.2f ms", seconds * 1000);
+    printTarget(seconds * 1000, counts ? job.mostMilliseconds : 0, missed);
     std::printf("\n");
   }
 }
@@ -116,8 +119,9 @@ void printMemory(const Series& series, int& missed) {
 
 }  // namespace
 
-int report(const std::vector<Series>& sizes) {
+int report(const Series& browsing, const std::vector<Series>& sizes) {
   int missed = 0;
+  printTimes(browsing, missed);
   for (const Series& series : sizes) printTimes(series, missed);
   for (std::size_t i = 1; i < sizes.size(); ++i) printSlopes(sizes[i - 1], sizes[i], missed);
   for (const Series& series : sizes) printMemory(series, missed);

@@ -14,8 +14,8 @@ struct Series {
   std::map<std::string, std::vector<Outcome>> outcomes;
 };
 
-/// Prints a table per size, then how each job grows with the collection, and the memory per row. Returns how
-/// many targets were missed.
-int report(const std::vector<Series>& sizes);
+/// Prints a table for the jobs on the large base and one per size, then how each job grows with the
+/// collection, and the memory per row. Returns how many targets were missed.
+int report(const Series& browsing, const std::vector<Series>& sizes);
 
 }  // namespace velmora::bench

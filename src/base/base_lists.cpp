@@ -106,6 +106,7 @@ bool BaseLists::artistPasses(const Text& artistFolder) const {
 void BaseLists::List1Click() {
   ui::Form3& form3 = parts_.form3;
   if (diverted(form3.List1)) return;
+  const LastPosition::OneLook look(parts_.positions);
   const Text genre = clickedText(form3.List1);
   form3.Combo1.setText(genre);
   for (ui::ListBox* list :
@@ -142,6 +143,7 @@ void BaseLists::listArtists() {
 void BaseLists::List2Click() {
   ui::Form3& form3 = parts_.form3;
   if (diverted(form3.List2)) return;
+  const LastPosition::OneLook look(parts_.positions);
   const Text artist = clickedText(form3.List2);
   form3.Text2.setText(artist);
   for (ui::ListBox* list : {&form3.List3, &form3.List4, &form3.List7, &form3.List8}) list->Clear();

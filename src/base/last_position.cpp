@@ -44,11 +44,12 @@ Text LastPosition::LoadPos(TextView key) const {
 
 /// Returns false when there are records that cannot be read, which must not be written over.
 bool LastPosition::read() const {
+  if (looked_) return true;
   try {
     const std::uint64_t bytes = files_.size(path_);
-    if (bytes == bytes_) return true;
-    records_ = core::records::readTexts(files_.readAll(path_));
+    if (bytes != bytes_) records_ = core::records::readTexts(files_.readAll(path_));
     bytes_ = bytes;
+    looked_ = looks_ > 0;
     return true;
   } catch (const platform::FileError&) {
     records_.clear();
@@ -63,8 +64,10 @@ void LastPosition::write() {
   try {
     files_.writeAll(path_, content);
     bytes_ = content.size();
+    looked_ = looks_ > 0;
   } catch (const platform::FileError&) {
     bytes_.reset();
+    looked_ = false;
   }
 }
 

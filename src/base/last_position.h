@@ -22,6 +22,20 @@ class LastPosition {
   /// The value of the last record of the key; empty when there is none.
   Text LoadPos(TextView key) const;
 
+  /// For the length of one click: the file is looked at once, however many positions the click asks for.
+  class OneLook {
+   public:
+    explicit OneLook(LastPosition& positions) : positions_(positions) { ++positions_.looks_; }
+    ~OneLook() {
+      if (--positions_.looks_ == 0) positions_.looked_ = false;
+    }
+    OneLook(const OneLook&) = delete;
+    OneLook& operator=(const OneLook&) = delete;
+
+   private:
+    LastPosition& positions_;
+  };
+
  private:
   bool read() const;
   void write();
@@ -30,6 +44,8 @@ class LastPosition {
   Text path_;
   mutable std::vector<Text> records_;
   mutable std::optional<std::uint64_t> bytes_;  // size of the file that the records were read from
+  int looks_ = 0;                               // scopes that are open
+  mutable bool looked_ = false;                 // within the outermost of them
 };
 
 }  // namespace velmora::base

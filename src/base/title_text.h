@@ -24,6 +24,8 @@ class TitleText {
 
  private:
   int dashOf(TextView fileName) const;
+  TextView lastOfFew(TextView fileName) const;
+  TextView lastOfMany(TextView fileName) const;
 
   bool withArtist_;
   std::vector<Text> artists_;

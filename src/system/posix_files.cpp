@@ -229,6 +229,9 @@ void PosixFiles::append(const Text& path, BytesView bytes) {
 
 void PosixFiles::makeFolder(const Text& path) {
   const Bytes native = nativePath(path);
+  struct stat status;
+  // Mostly it is there, which a look tells for less than a try to make it.
+  if (::stat(native.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) return;
   // Down to the first folder that can be made, and up again.
   std::vector<Bytes> missing = {native};
   while (!missing.empty()) {
@@ -238,7 +241,6 @@ void PosixFiles::makeFolder(const Text& path) {
       continue;
     }
     const int code = errno;
-    struct stat status;
     if (::stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) {
       missing.pop_back();
       continue;
