@@ -126,12 +126,15 @@ void BaseLists::List1Click() {
 void BaseLists::listArtists() {
   const bool all = parts_.years.allYears();
   std::vector<ListItem> rows;
-  std::unordered_map<Text, std::size_t> firstRow;
-  for (const int genre : parts_.form3.List1.selectedIndexes()) {
+  std::unordered_map<Text, std::size_t> firstRow;  // of an artist, where several genres are listed
+  const std::vector<int> genres = parts_.form3.List1.selectedIndexes();
+  for (const int genre : genres) {
     const Text folder = genrePath(genre);
     for (Text& artist : foldersIn(parts_.files, folder)) {
       if (!all && !artistPasses(paths::join(folder, artist))) continue;
-      const std::size_t first = firstRow.try_emplace(artist, rows.size()).first->second;
+      // No folder holds a name twice.
+      const std::size_t first =
+          genres.size() == 1 ? rows.size() : firstRow.try_emplace(artist, rows.size()).first->second;
       rows.push_back({std::move(artist), 0});
       rows[first].data = genre;
     }

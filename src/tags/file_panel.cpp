@@ -30,7 +30,12 @@ void fill(ui::Form1& form1, const core::Element& title, const core::Element& art
           const core::Element& album, const core::Element& year, const core::Element& track,
           const core::Element& genre) {
   const auto show = [&form1](auto& box, const ui::CheckBox& check, const core::Element& value) {
-    if (!form1.fieldChecks.keeps(check)) box.setText(value.text());
+    if (form1.fieldChecks.keeps(check)) return;
+    // A batch shows each song several times over, mostly with what the boxes hold already.
+    if (box.text() != value.text())
+      box.setText(value.text());
+    else if constexpr (requires { box.setCursor(0); })
+      box.setCursor(core::length(box.text()));
   };
   show(form1.tags.title, form1.fieldChecks.title, title);
   show(form1.tags.artist, form1.fieldChecks.artist, artist);

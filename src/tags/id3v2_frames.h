@@ -43,10 +43,14 @@ class FrameTable {
     using is_transparent = void;
     std::size_t operator()(BytesView name) const { return std::hash<BytesView>()(name); }
   };
+  static constexpr std::size_t fewFrames = 16;
+  static constexpr std::size_t nowhere = static_cast<std::size_t>(-1);
+  std::size_t placeOf(BytesView name) const;
   const Frame* find(BytesView name) const;
 
   std::vector<Frame> frames_;
-  std::unordered_map<Bytes, std::size_t, Hash, std::equal_to<>> places_;  // index in frames_
+  // Index in frames_; empty while there are few, which are looked through faster.
+  std::unordered_map<Bytes, std::size_t, Hash, std::equal_to<>> places_;
 };
 
 }  // namespace velmora::tags
