@@ -10,7 +10,7 @@ namespace velmora::bench {
 /// What a job works on. All folders are full paths.
 struct Scene {
   std::string music;  ///< a collection to work on
-  std::string base;   ///< a Music Base of four times as many files; for a job on Music::Base, that one
+  std::string base;   ///< a Music Base of four times as many files; for music to be filed, the large one
   std::string state;  ///< program folder, kept from job to job within one round
 };
 
@@ -48,7 +48,7 @@ class Laps {
 enum class Music {
   New,     ///< music as it comes, shared by all jobs, which must leave it as it is
   Ready,   ///< music that is ready to be filed, shared likewise
-  Base,    ///< none, but a Music Base of 100,000 files, whatever the sizes of the other collections
+  Base,    ///< none, but the large Music Base of 100,000 files, whatever the sizes of the others
   Repair,  ///< a fresh copy of music in which every name wants repair, for the job to change
   Filed,   ///< a fresh copy of music that is ready to be filed, for the job to change
   Left     ///< that copy as the jobs before left it

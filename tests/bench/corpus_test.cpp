@@ -54,6 +54,33 @@ TEST(CorpusTest, TagsAreOnAsManySongsAsToldAndCanBeRead) {
   EXPECT_GT(100 * titles / songs, 70);
 }
 
+TEST(CorpusTest, ReadyMusicIsTaggedButForATwentiethAndATenthIsByOneArtist) {
+  const test::TempFolder folder;
+  EXPECT_EQ(makeReadyMusic(folder.native(u"ready"), songs, 10).songs, songs + songs / 20);
+  const Collection made(folder.native(u"ready"));
+  EXPECT_NEAR(made.share([](const auto& track, TextView) { return track.imaid3v2.isTrue(); }), 95.2, 0.1);
+  const Text artist = core::fromBytes(busyArtist);
+  EXPECT_NEAR(made.share([&](const auto&, TextView name) { return name.starts_with(artist); }), 10, 4);
+}
+
+TEST(CorpusTest, EmptyBaseHasTheShapeAskedFor) {
+  const test::TempFolder folder;
+  const BaseShape shape{.genres = 6, .artists = 30, .albums = 70, .songs = 700};
+  EXPECT_EQ(makeEmptyBase(folder.native(u"base"), shape, 11).songs, shape.songs);
+  std::vector<int> foldersAt(3);
+  int files = 0;
+  const std::filesystem::path base(folder.native(u"base"));
+  for (auto entry = std::filesystem::recursive_directory_iterator(base);
+       entry != std::filesystem::recursive_directory_iterator(); ++entry) {
+    if (entry->is_directory())
+      ++foldersAt[static_cast<std::size_t>(entry.depth())];
+    else
+      ++files;
+  }
+  EXPECT_EQ(foldersAt, (std::vector<int>{shape.genres, shape.artists, shape.albums}));
+  EXPECT_EQ(files, shape.songs);
+}
+
 TEST(CorpusTest, BaseLiesByGenreArtistAndAlbum) {
   const test::TempFolder folder;
   EXPECT_EQ(makeBase(folder.native(u"base"), songs, 9).songs, songs);

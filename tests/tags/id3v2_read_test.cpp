@@ -195,6 +195,35 @@ TEST_F(ID3v2Read, SizesArePlainNumbersInEveryVersion) {
               u"Song");
 }
 
+TEST(FrameTable, ManyIdentifiersComeAndGoInAnyOrder) {
+  FrameTable frames;
+  std::vector<Bytes> expected;
+  const auto name = [](int number) { return "T" + std::to_string(100 + number); };
+  const auto check = [&] {
+    ASSERT_EQ(frames.count(), static_cast<int>(expected.size()));
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+      EXPECT_EQ(frames.name(static_cast<int>(i) + 1), expected[i]);
+      EXPECT_EQ(frames.body(expected[i], 1), "body of " + expected[i]);
+    }
+  };
+  const auto add = [&](int number) {
+    frames.add(name(number), "body of " + name(number));
+    expected.push_back(name(number));
+  };
+  const auto remove = [&](int number) {
+    frames.remove(name(number));
+    std::erase(expected, name(number));
+    EXPECT_FALSE(frames.has(name(number)));
+  };
+  for (int number = 0; number < 40; ++number) add(number);
+  check();
+  for (int number = 1; number < 38; number += 3) remove(number);
+  for (int number = 0; number < 38; number += 3) remove(number);
+  check();
+  for (int number = 0; number < 38; number += 3) add(number);
+  check();
+}
+
 TEST(FrameTable, RemovingOneOfSeveralLosesAllOtherBodies) {
   FrameTable frames;
   for (const char* body : {"a", "b", "c"}) frames.add("COMM", body);
