@@ -21,8 +21,8 @@ constexpr std::size_t id3v1Bytes = 128;
 constexpr std::size_t renameLineBytes = 180;
 constexpr std::size_t tagLineBytes = 240;
 constexpr std::size_t infoBytes = 150;
-constexpr std::size_t removalLineBytes = 330;
-constexpr std::size_t moveLineBytes = 220;
+constexpr std::size_t removalLineBytes = 260;
+constexpr std::size_t moveLineBytes = 210;
 
 /// As many files of the collection as the list can show, and so a command can be given.
 std::vector<std::string> filesOf(const std::string& folder) {
