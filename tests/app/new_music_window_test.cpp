@@ -11,6 +11,7 @@ struct NewMusicWindowTest : testing::Test {
   test::HeadlessVelmora program;
   ui::Form2& form2() { return program.windows().form2; }
   ui::Button& undo() { return form2().undoLastOperation; }
+  ui::Button& undoNames() { return program.form1().repair.undoLastOperation; }
 
   /// Two songs in the New Music Window, which is in front, beside an empty base.
   void open() {
@@ -35,11 +36,10 @@ struct NewMusicWindowTest : testing::Test {
 
 TEST_F(NewMusicWindowTest, EachUndoIsOfferedWhereItsOperationIsTheLast) {
   open();
-  ui::Button& undoNames = program.form1().repair.undoLastOperation;
   program.form3().showProcessingWindow.click();
   program.form1().List4.select({0}, 0);
   program.form1().repair.replaceArtistTitle.click();
-  ASSERT_TRUE(undoNames.enabled());
+  ASSERT_TRUE(undoNames().enabled());
   program.restart();
   EXPECT_FALSE(undo().enabled()) << "at the start, before the window was ever open";
 
@@ -48,10 +48,10 @@ TEST_F(NewMusicWindowTest, EachUndoIsOfferedWhereItsOperationIsTheLast) {
   form2().List1.select({0}, 0);
   moveAll();
   EXPECT_TRUE(undo().enabled());
-  EXPECT_FALSE(undoNames.enabled());
+  EXPECT_FALSE(undoNames().enabled());
   undo().click();
   EXPECT_FALSE(undo().enabled());
-  EXPECT_TRUE(undoNames.enabled());
+  EXPECT_TRUE(undoNames().enabled());
 }
 
 TEST_F(NewMusicWindowTest, AWindowThatComesToTheFrontDuringAMoveCountsBehindIt) {
