@@ -48,10 +48,16 @@ void requireUsable(const struct stat& status, int flags) {
 }
 
 /// Opens what must be a regular file. Anything else is refused unopened, since to open a pipe or a device is
-/// to do something to it; O_NONBLOCK covers the moment between the look and the opening.
+/// to do something to it; O_NONBLOCK covers the moment between the look and the opening. That a song was
+/// looked through does not count as an access, which would be one more write to the disk for each song of a
+/// collection; but only its owner may ask for that.
 Descriptor openRegular(const Bytes& path, int flags) {
   requireUsable(statusOf(path), flags);
-  Descriptor file(untilDone([&] { return ::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC); }));
+  const auto open = [&](int more) {
+    return untilDone([&] { return ::open(path.c_str(), flags | more | O_NONBLOCK | O_CLOEXEC); });
+  };
+  Descriptor file(open(O_NOATIME));
+  if (!file.valid() && errno == EPERM) file = Descriptor(open(0));
   if (!file.valid()) throwErrno(path);
   return file;
 }

@@ -14,8 +14,10 @@ constexpr std::size_t commentBytes = 28;
 constexpr BytesView marker = "TAG";
 
 Text cleaned(BytesView field) {
+  field = field.substr(0, field.find('\0'));
   Text text;
-  for (const char byte : field.substr(0, field.find('\0')))
+  text.reserve(field.size());
+  for (const char byte : field)
     if (byte >= 32 && byte <= 126) text += static_cast<char16_t>(byte);
   return text;
 }
@@ -76,7 +78,9 @@ void cMP3ID3v1::read(SongBytes& song, const Text& path) {
 }
 
 Bytes cMP3ID3v1::fields() const {
-  Bytes bytes(marker);
+  Bytes bytes;
+  bytes.reserve(tagBytes);
+  bytes += marker;
   bytes += padded(Title, nameBytes);
   bytes += padded(Artist, nameBytes);
   bytes += padded(Album, nameBytes);

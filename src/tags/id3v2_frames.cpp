@@ -51,6 +51,7 @@ void FrameTable::add(BytesView name, Bytes body) {
   std::size_t place = placeOf(name);
   if (place == nowhere) {
     place = frames_.size();
+    if (place == 0) frames_.reserve(fewFrames);
     frames_.push_back({Bytes(name), {}});
     if (frames_.size() == fewFrames + 1)
       for (std::size_t i = 0; i < place; ++i) places_.emplace(frames_[i].name, i);

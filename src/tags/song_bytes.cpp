@@ -31,7 +31,10 @@ BytesView SongBytes::at(std::uint64_t offset, std::size_t count) {
 }
 
 const SongBytes::Stretch& SongBytes::readHead() {
-  head_.bytes = BytesView(headBlock_.data(), file_.readAt(0, headBlock_));
+  // No more than there is: to meet the end of the file would take a call of its own.
+  const auto block =
+      std::span(headBlock_).first(static_cast<std::size_t>(std::min<std::uint64_t>(firstChunk, size_)));
+  head_.bytes = BytesView(headBlock_.data(), file_.readAt(0, block));
   return head_;
 }
 
@@ -48,9 +51,11 @@ BytesView SongBytes::end(std::size_t count) {
   const std::uint64_t offset = size_ - std::min<std::uint64_t>(count, size_);
   const Stretch* stretch = find(offset, static_cast<std::size_t>(size_ - offset));
   if (!stretch) {
-    const std::uint64_t start = size_ - std::min<std::uint64_t>(endBytes, size_);
+    const auto block =
+        std::span(endBlock_).first(static_cast<std::size_t>(std::min<std::uint64_t>(endBytes, size_)));
+    const std::uint64_t start = size_ - block.size();
     end_ = {};
-    end_ = {BytesView(endBlock_.data(), file_.readAt(start, endBlock_)), start};
+    end_ = {BytesView(endBlock_.data(), file_.readAt(start, block)), start};
     stretch = &end_;
   }
   const std::uint64_t skipped = std::min<std::uint64_t>(offset - stretch->start, stretch->bytes.size());

@@ -90,6 +90,26 @@ TEST_F(PosixFilesTest, AnOpenFileReadsAndWritesAtOffsets) {
   EXPECT_EQ(folder.read(u"a"), Bytes("0123456789\0\0ab", 14));
 }
 
+TEST_F(PosixFilesTest, ToReadAFileDoesNotCountAsAnAccess) {
+  const Text path = folder.write(u"a", "0123456789");
+  const Bytes native = folder.native(u"a");
+  const timespec longAgo[] = {{1, 0}, {2, 0}};  // older than a day and than the last change
+  ASSERT_EQ(::utimensat(AT_FDCWD, native.c_str(), longAgo, 0), 0);
+  std::array<char, 8> buffer;
+  files.open(path, OpenMode::Read)->readAt(0, buffer);
+  files.readAll(path);
+  struct stat status;
+  ASSERT_EQ(::stat(native.c_str(), &status), 0);
+  EXPECT_EQ(status.st_atime, 1);
+
+  // Only the owner may ask for that; the file of another is read all the same.
+  const uid_t user = ::geteuid();
+  constexpr uid_t nobody = 65534;
+  ASSERT_EQ(::seteuid(user == 0 ? nobody : user), 0);
+  EXPECT_EQ(errorNumber([&] { files.readAll(u"/etc/passwd"); }), 0);
+  ASSERT_EQ(::seteuid(user), 0);
+}
+
 TEST_F(PosixFilesTest, WholeContentsGrowAndShrinkInPlace) {
   const Text path = folder.path(u"own");
   const Bytes large(300'000, 'x');
