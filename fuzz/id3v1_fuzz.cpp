@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "fuzz/memory_files.h"
 #include "fuzz/target.h"
 #include "tags/id3v1.h"
-#include "tests/support/memory_files.h"
 #include "tests/support/scripted_dialogs.h"
 
 using velmora::Bytes;
@@ -20,7 +20,7 @@ bool isClean(const Text& text, std::size_t width) {
 }  // namespace
 
 VELMORA_FUZZ_TARGET(id3v1) {
-  velmora::test::MemoryFiles files;
+  velmora::fuzz::MemoryFiles files;
   files.put(u"song.mp3", bytes);
   tags::cMP3ID3v1 tag(files);
   tag.setMP3File(u"song.mp3");

@@ -1,6 +1,7 @@
 #include <optional>
 
 #include "core/code_page.h"
+#include "fuzz/memory_files.h"
 #include "fuzz/target.h"
 #include "platform/file_error.h"
 #include "tags/id3v2.h"
@@ -8,7 +9,6 @@
 #include "tags/id3v2_writer.h"
 #include "tags/tag_cache.h"
 #include "tests/support/memory_file.h"
-#include "tests/support/memory_files.h"
 
 using velmora::Bytes;
 using velmora::BytesView;
@@ -57,7 +57,7 @@ void requireSameAsCache(velmora::platform::Files& files, const tags::cMP3ID3v2& 
 }  // namespace
 
 VELMORA_FUZZ_TARGET(id3v2) {
-  velmora::test::MemoryFiles files;
+  velmora::fuzz::MemoryFiles files;
   files.put(u"song.mp3", bytes);
   {
     velmora::test::MemoryFile file{Bytes(bytes)};

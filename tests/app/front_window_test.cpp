@@ -94,13 +94,6 @@ TEST_F(FrontWindowTest, NewMusicOpensAndClosesBesideTheBaseAndComesUpAgainAtTheN
   EXPECT_FALSE(program.windows().form2.visible());
 }
 
-TEST_F(FrontWindowTest, NoBaseIsAskedForWithoutRows) {
-  program.startInProcessingWindow();
-  EXPECT_FALSE(program.form1().assort.enabled());
-  program.form1().closeRequest();
-  EXPECT_TRUE(program.form3().visible());
-}
-
 TEST_F(FrontWindowTest, ClosingDuringAReviewAsksFirst) {
   program.startInProcessingWindow();
   int exits = 0;

@@ -264,18 +264,6 @@ int differences(const Values& left, const Values& right) {
   return count;
 }
 
-/// The songs that the table has, and those of the folder, which may hold an unfinished copy too.
-std::set<std::string> listedIn(Victim& victim) {
-  std::set<std::string> names;
-  for (const std::string& name : victim.listed()) names.insert(name + ".mp3");
-  return names;
-}
-std::set<std::string> namesIn(Victim& victim) {
-  std::set<std::string> names;
-  for (const auto& [number, name] : victim.songNames()) names.insert(name);
-  return names;
-}
-
 TEST_F(Kill, FixSyntaxLosesNoSongAndIsTakenBack) {
   torment(&Victim::growTags, &Victim::fixSyntax, 10, [](Victim& victim) {
     victim.undoAll();
@@ -297,7 +285,10 @@ TEST_F(Kill, UndoIsBroughtToItsEndByTheNextOne) {
     victim.undoAll();
     EXPECT_EQ(victim.songNames(), victim.namesBefore);
     EXPECT_EQ(victim.songTags(), victim.tagsBefore);
-    EXPECT_EQ(listedIn(victim), namesIn(victim));
+    std::vector<std::string> names;
+    for (const auto& [number, name] : victim.songNames()) names.push_back(name.substr(0, name.size() - 4));
+    std::ranges::sort(names);
+    EXPECT_EQ(victim.listed(), names);
   });
 }
 

@@ -24,6 +24,8 @@ TEST_F(ShutDownTest, ClosingTheMusicBaseWindowStoresItsPlaceAndEndsTheProgram) {
   program.start();
   program.form3().setPlacement({150, 300, 9000, 6000});
   program.form3().splitters.setPlace(3, {4500, 2000});
+  program.form1().List6.AddItem(u"/a", 4);
+  program.form1().List6.AddItem(u"/b", 17);
   program.form3().closeRequest();
   EXPECT_TRUE(program.app().ended());
   EXPECT_EQ(program.ends, 1);
@@ -44,6 +46,8 @@ TEST_F(ShutDownTest, ClosingTheMusicBaseWindowStoresItsPlaceAndEndsTheProgram) {
                                    {u"ton", u" 0"},
                                    {u"slider", u" 1"},
                                    {u"stanje0", u"::: 0,: 0,: 0,:"},
+                                   {u"vratidup1", u" 4"},
+                                   {u"vratidup2", u" 17"},
                                    {u"velicinasfiles", u" 0"}})
     EXPECT_EQ(program.settings.get(key), value) << core::toBytes(key);
 }
@@ -93,24 +97,11 @@ TEST_F(ShutDownTest, SelectionSurvivesAnEndInTheMusicBaseWindowToo) {
   }
 }
 
-TEST_F(ShutDownTest, PairOfDuplicatesIsStored) {
-  program.start();
-  program.form1().List6.AddItem(u"/a", 4);
-  program.form1().List6.AddItem(u"/b", 17);
-  program.app().requestEnd();
-  EXPECT_EQ(program.settings.get(u"vratidup1"), u" 4");
-  EXPECT_EQ(program.settings.get(u"vratidup2"), u" 17");
-}
-
 TEST_F(ShutDownTest, EndBeforeTheStartTouchesNothing) {
-  addSongs();
-  program.restart();
+  program.folder.write(u"program/Data/nizdes.txt", "\"/x.mp3\"\r\n");
   program.app().requestEnd();
-  test::HeadlessVelmora unstarted;
-  unstarted.folder.write(u"program/Data/nizdes.txt", "\"/x.mp3\"\r\n");
-  unstarted.app().requestEnd();
-  EXPECT_TRUE(unstarted.app().ended());
-  EXPECT_TRUE(unstarted.folder.exists(u"program/Data/nizdes.txt"));
+  EXPECT_TRUE(program.app().ended());
+  EXPECT_TRUE(program.folder.exists(u"program/Data/nizdes.txt"));
 }
 
 TEST_F(ShutDownTest, EndDuringACommandStopsItFirstAndStoresAWholeTable) {

@@ -54,23 +54,6 @@ TEST_F(BaseListsTest, WithoutARootThereIsNothing) {
   EXPECT_EQ(rows(form3.List1), Names{});
 }
 
-TEST_F(BaseListsTest, FilesOfOneNameBelongToTheArtistsInTheirOrder) {
-  show({u"Rock/A/intro.mp3", u"Rock/B/intro.mp3", u"Rock/C/intro.mp3"});
-  click(form3.List1, {u"Rock"});
-  click(form3.List2, {u"A", u"C"});
-  ASSERT_EQ(rows(form3.List4), (Names{"intro.mp3", "intro.mp3"}));
-  EXPECT_EQ(lists.filePath(1), at(u"Rock/C/intro.mp3"));
-  EXPECT_EQ(lists.filePath(0), at(u"Rock/A/intro.mp3"));
-}
-
-TEST_F(BaseListsTest, AlbumsReadOldestFirst) {
-  show(
-      {u"R/A/Old 1969/", u"R/A/New 2020/", u"R/A/Misc/", u"R/A/Live 99/", u"R/A/Middle 2001/", u"R/A/x.mp3"});
-  click(form3.List1, {u"R"});
-  EXPECT_EQ(rows(form3.List3), (Names{without, "Live 99", "Misc", "Old 1969", "Middle 2001", "New 2020"}));
-  EXPECT_EQ(lists.albumPath(3), at(u"R/A/Old 1969/"));
-}
-
 TEST(FolderYear, IsWhatTheLastFourCharactersBeginWith) {
   struct {
     TextView name;
@@ -109,14 +92,6 @@ TEST(TitleText, LosesTheArtistPart) {
   for (const auto& c : cases)
     EXPECT_EQ(base::TitleText(c.withArtist, artists).of(c.file), c.title) << core::toBytes(c.file);
   EXPECT_EQ(base::TitleText(false, {u"Jay", u"Jay-Z"}).of(u"Jay-Z - One.mp3"), u"One");
-}
-
-TEST_F(BaseListsTest, TwoGenresWithAnArtistOfOneName) {
-  show({u"A0/Same/a.mp3", u"B1/Same/b.mp3", u"C2/Same/c.mp3", u"C2/Other/o.mp3"});
-  click(form3.List1, {u"B1", u"C2"});
-  EXPECT_EQ(rows(form3.List2), (Names{"Other", "Same", "Same"}));
-  EXPECT_EQ(form3.List2.ItemData(1), 2) << "the later genre";
-  EXPECT_EQ(form3.List2.ItemData(2), 0);
 }
 
 /// Neither a command that refills the lists, nor another window, chooses albums and titles for the user.

@@ -122,16 +122,6 @@ TEST_F(NewFoldersTest, WhatExistsOrHasNoNameChangesNothing) {
   EXPECT_EQ(chosen(form3.List1), Names{});
 }
 
-TEST_F(NewFoldersTest, TheNewMusicWindowIsNotAsked) {
-  show({});
-  table.aktivniprozor = 2;
-  form3.Combo1.setText(u" New ");
-  newFolders.newGenre();
-  EXPECT_EQ(form3.Combo1.text(), u"New");
-  EXPECT_EQ(chosen(form3.List1), Names{"New"});
-  EXPECT_TRUE(journal.exists());
-}
-
 TEST_F(NewFoldersTest, ABaseWithoutARootAsksForOneFirst) {
   settings.set(u"DirZaBazu", u"");
   lists.readRoot();

@@ -39,23 +39,6 @@ struct BaseWorld : HouseWorld {
     make(names);
     lists.IzlistajBazu();
   }
-  static int find(const ui::ListBox& list, TextView text) {
-    for (int index = 0; index < list.ListCount(); ++index)
-      if (list.List(index) == text) return index;
-    ADD_FAILURE() << "no row " << core::toBytes(text);
-    return -1;
-  }
-  /// The user clicks these rows, the last of them last.
-  static void click(ui::ListBox& list, const Texts& rows) {
-    std::vector<int> indexes;
-    for (const Text& row : rows) indexes.push_back(find(list, row));
-    list.select(indexes, indexes.back());
-  }
-  static Names chosen(const ui::ListBox& list) {
-    Names names;
-    for (const int index : list.selectedIndexes()) names.push_back(core::toBytes(list.List(index)));
-    return names;
-  }
   /// Answers the question of a command.
   void answer(Text text, Text title, platform::Answer given = platform::Answer::Ok) {
     dialogs.expect(std::move(text), std::move(title), given);

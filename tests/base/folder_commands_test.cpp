@@ -11,27 +11,23 @@ namespace {
 using platform::Answer;
 using platform::FileError;
 using test::Names;
+using test::Texts;
 using test::TreeSnapshot;
 
 struct FolderCommandsTest : test::BaseWorld {
-  void renGenre(const std::vector<Text>& genres, const Text& name) {
+  void renGenre(const Texts& genres, const Text& name) {
     click(form3.List1, genres);
     form3.Combo1.setText(name);
     confirm(u"Are you sure you want to RENAME selected folder(s) ?");
     room.folderCommands.renGenre();
   }
-  void renArtist(const std::vector<Text>& artists, const Text& name) {
-    click(form3.List2, artists);
-    form3.Text2.setText(name);
-    confirm(u"Are you sure you want to RENAME selected folder(s)?");
-    room.folderCommands.renArtist();
-  }
-  void renAlbum(const std::vector<Text>& albums, const Text& name) {
-    click(form3.List3, albums);
+  void renAlbum(const Text& album, const Text& name) {
+    click(form3.List3, {album});
     form3.Text3.setText(name);
     confirm(u"Are you sure you want to RENAME selected folder(s)?");
     room.folderCommands.renAlbum();
   }
+  void confirmDel() { answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete"); }
   /// The next Ren meets a file that has the name already.
   void expectClash(const Text& from, Answer given) { clashes.emplace_back(from, given); }
   void confirm(const Text& question) {
@@ -102,14 +98,12 @@ TEST_F(FolderCommandsTest, RenOfCapitalsAloneGoesThroughAHoldingFolder) {
 }
 
 TEST_F(FolderCommandsTest, RenOfCapitalsAloneKeepsAnotherFolderOfThatSpelling) {
-  show({u"rock/A/1.mp3", u"rock/A/2.mp3", u"Rock/A/1.mp3", u"Rock733727sdfs535/old.mp3"});
-  renGenre({u"Rock733727sdfs535"}, u"left over");
+  show({u"rock/A/1.mp3", u"rock/A/2.mp3", u"Rock/A/1.mp3"});
   expectClash(u"Rock733727sdfs535/A/1.mp3", Answer::Ignore);
   renGenre({u"rock"}, u"Rock");
   EXPECT_EQ(content(u"Rock/A/1.mp3"), "Rock/A/1.mp3");
   EXPECT_EQ(content(u"rock/A/1.mp3"), "rock/A/1.mp3") << "what is ignored stays where it was";
   EXPECT_EQ(content(u"Rock/A/2.mp3"), "rock/A/2.mp3");
-  EXPECT_TRUE(there(u"left over/old.mp3"));
   EXPECT_FALSE(holdingLeft());
 }
 
@@ -118,6 +112,8 @@ TEST_F(FolderCommandsTest, AHoldingFolderOfACrashIsNotMixedWithANewOne) {
   renGenre({u"rock"}, u"Rock");
   EXPECT_EQ(content(u"Rock/A/1.mp3"), "rock/A/1.mp3");
   EXPECT_EQ(content(u"Rock733727sdfs535/A/1.mp3"), "Rock733727sdfs535/A/1.mp3");
+  renGenre({u"Rock733727sdfs535"}, u"left over");
+  EXPECT_TRUE(there(u"left over/A/1.mp3")) << "it is a folder as any other";
 }
 
 TEST_F(FolderCommandsTest, SeveralFoldersBecomeOneAndAClashAsks) {
@@ -169,7 +165,10 @@ TEST_F(FolderCommandsTest, StopEndsARen) {
 TEST_F(FolderCommandsTest, AnArtistIsRenamedInEachSelectedGenre) {
   show({u"Pop/Abba/1.mp3", u"Rock/Abba/Al 2001/2.mp3", u"Zouk/Abba/3.mp3"});
   click(form3.List1, {u"Pop", u"Rock"});
-  renArtist({u"Abba"}, u"ABBA");
+  click(form3.List2, {u"Abba"});
+  form3.Text2.setText(u"ABBA");
+  confirm(u"Are you sure you want to RENAME selected folder(s)?");
+  room.folderCommands.renArtist();
   EXPECT_EQ(content(u"Rock/ABBA/Al 2001/2.mp3"), "Rock/Abba/Al 2001/2.mp3");
   EXPECT_TRUE(there(u"Zouk/Abba/3.mp3"));
   EXPECT_EQ(chosen(form3.List1), (Names{"Pop", "Rock"}));
@@ -180,16 +179,16 @@ TEST_F(FolderCommandsTest, ARowThatLeadsToAnUnselectedGenreIsLeftAlone) {
   show({u"A0/Same/a.mp3", u"B1/Same/b.mp3", u"C2/Same/c.mp3"});
   click(form3.List1, {u"B1", u"C2"});
   form3.List2.select({0, 1}, 1);
-  answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
+  confirmDel();
   room.folderCommands.delArtist();
-  EXPECT_EQ(trash.sent, std::vector<Text>{at(u"C2/Same/c.mp3")});
+  EXPECT_EQ(trash.sent, Texts{at(u"C2/Same/c.mp3")});
   EXPECT_TRUE(there(u"A0/Same/a.mp3"));
 }
 
 TEST_F(FolderCommandsTest, FilesWithoutAFolderGetOne) {
   show({u"R/A/own.mp3", u"R/A/One 2001/1.mp3", u"R/A/empty/"});
   click(form3.List1, {u"R"});
-  renAlbum({Text(base::withoutFolder)}, u"Singles 1990");
+  renAlbum(Text(base::withoutFolder), u"Singles 1990");
   EXPECT_EQ(content(u"R/A/Singles 1990/own.mp3"), "R/A/own.mp3");
   EXPECT_TRUE(there(u"R/A/One 2001/1.mp3"));
   EXPECT_TRUE(there(u"R/A/empty"));
@@ -200,13 +199,13 @@ TEST_F(FolderCommandsTest, FilesWithoutAFolderGetOne) {
 TEST_F(FolderCommandsTest, AnAlbumWithoutANameMovesUp) {
   show({u"R/A/One 2001/1.mp3", u"R/A/Two 2002/2.mp3"});
   click(form3.List1, {u"R"});
-  renAlbum({u"One 2001"}, u"");
+  renAlbum(u"One 2001", u"");
   EXPECT_TRUE(there(u"R/A/1.mp3"));
   EXPECT_FALSE(there(u"R/A/One 2001"));
   EXPECT_EQ(chosen(form3.List3), Names{core::toBytes(base::withoutFolder)});
   EXPECT_EQ(form3.Text3.text(), u"");
   EXPECT_EQ(rows(form3.List4), Names{"1.mp3"});
-  renAlbum({Text(base::withoutFolder)}, u"");
+  renAlbum(Text(base::withoutFolder), u"");
   EXPECT_TRUE(there(u"R/A/1.mp3")) << "nothing to do";
 }
 
@@ -268,38 +267,32 @@ TEST_F(FolderCommandsTest, AFolderThatStillHoldsAFileStays) {
   click(form3.List1, {u"rock"});
   click(form3.List2, {u"A", u"B"});
   trash.refused = at(u"rock/A/1.mp3");
-  answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
+  confirmDel();
   room.folderCommands.delArtist();
   EXPECT_EQ(rows(form3.List2), Names{"A"});
   EXPECT_TRUE(there(u"rock/A/1.mp3"));
 }
 
-TEST_F(FolderCommandsTest, DelOfAlbumsAsksAgainForFilesWithoutAFolder) {
-  show({u"R/A/own.mp3", u"R/A/One 2001/1.mp3", u"R/A/Two 2002/2.mp3"});
-  click(form3.List1, {u"R"});
-  click(form3.List3, {Text(base::withoutFolder), u"One 2001"});
-  answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
-  answer(u"Are you sure you want to DELETE selected file(s)?", u"Delete");
-  room.folderCommands.delAlbum();
-  EXPECT_EQ(trash.sent, (std::vector<Text>{at(u"R/A/own.mp3"), at(u"R/A/One 2001/1.mp3")}));
+TEST_F(FolderCommandsTest, DelOfAlbumsAsksAgainForFilesWithoutAFolderAndStopAmongThemKeepsTheAlbums) {
+  for (const bool stops : {true, false}) {
+    show({u"R/A/own.mp3", u"R/A/One 2001/1.mp3", u"R/A/Two 2002/2.mp3"});
+    click(form3.List1, {u"R"});
+    click(form3.List3, {Text(base::withoutFolder), u"One 2001"});
+    confirmDel();
+    answer(u"Are you sure you want to DELETE selected file(s)?", u"Delete");
+    files.onOperation = [&] {
+      if (stops && files.log.back().starts_with("move ")) table.Stop = true;
+    };
+    folder.removeAll(u"trash");
+    trash.sent.clear();
+    room.folderCommands.delAlbum();
+    Texts sent = {at(u"R/A/own.mp3")};
+    if (!stops) sent.push_back(at(u"R/A/One 2001/1.mp3"));
+    EXPECT_EQ(trash.sent, sent);
+    expectAtRest();
+  }
   EXPECT_EQ(rows(form3.List3), Names{"Two 2002"});
   EXPECT_EQ(rows(form3.List8), Names{});
-  expectAtRest();
-}
-
-TEST_F(FolderCommandsTest, StopAmongTheFilesWithoutAFolderKeepsTheAlbums) {
-  show({u"R/A/own.mp3", u"R/A/One 2001/1.mp3"});
-  click(form3.List1, {u"R"});
-  click(form3.List3, {Text(base::withoutFolder), u"One 2001"});
-  answer(u"Are you sure you want to DELETE selected folder(s)?", u"Delete");
-  answer(u"Are you sure you want to DELETE selected file(s)?", u"Delete");
-  files.onOperation = [&] {
-    if (files.log.back().starts_with("move ")) table.Stop = true;
-  };
-  room.folderCommands.delAlbum();
-  EXPECT_EQ(trash.sent, std::vector<Text>{at(u"R/A/own.mp3")});
-  EXPECT_TRUE(there(u"R/A/One 2001/1.mp3"));
-  expectAtRest();
 }
 
 TEST_F(FolderCommandsTest, AFolderThatCannotBeReadEndsTheCommandWithAMessage) {

@@ -369,27 +369,5 @@ TEST_F(MoveCommandsTest, AFaultAtAnyMomentLosesNothing) {
   }
 }
 
-TEST_F(MoveCommandsTest, AcrossVolumesASongIsWholeAtOneOfItsPlaces) {
-  const test::OtherVolume other;
-  if (!other.available()) GTEST_SKIP() << "one volume only";
-  settings.set(u"DirZaBazu", other.path());
-  lists.readRoot();
-  song(u"in/Alpha - one", {u"Rock"});
-  song(u"in/Alpha - two", {u"Rock"});
-  openBoth();
-  summary.moze();
-  EXPECT_EQ(form2.needLabel.text(), u"Need:  .03 KB");
-  EXPECT_THAT(core::toBytes(form2.freeLabel.text()), HasSubstr("Free(/"));
-  whole = TreeSnapshot::of(folder.path(u"new"));
-  click(form2.List1, {u"Rock"});
-  dialogs.expectTitle(u"Move", Answer::Ok);
-  moves.moveGenre();
-  EXPECT_TRUE(other.folder().exists(u"Rock/Alpha/Alpha - one.mp3"));
-  EXPECT_EQ(TreeSnapshot::of(other.path()).files(), 2U);
-  undo.undoLastOperation();
-  EXPECT_EQ(TreeSnapshot::of(folder.path(u"new")), whole);
-  EXPECT_EQ(TreeSnapshot::of(other.path()).files(), 0U);
-}
-
 }  // namespace
 }  // namespace velmora

@@ -8,6 +8,7 @@
 
 #include "qt/text.h"
 #include "tests/qt/bench.h"
+#include "tests/support/list_reader.h"
 
 namespace velmora::qt {
 namespace {
@@ -24,11 +25,6 @@ class ListModelTest : public testing::Test {
     std::vector<Text> rows;
     for (int i = 0; i < model.rowCount(); ++i)
       rows.push_back(toText(model.data(model.index(i), Qt::DisplayRole).toString()));
-    return rows;
-  }
-  std::vector<Text> rowsOf(const ui::ListBox& box) {
-    std::vector<Text> rows;
-    for (int i = 0; i < box.ListCount(); ++i) rows.push_back(box.List(i));
     return rows;
   }
 
@@ -106,7 +102,7 @@ TEST_F(ListModelTest, FollowsAnySequenceOfChanges) {
         break;
       case 4:
         model.refresh();
-        EXPECT_EQ(rowsOf(model), rowsOf(list));
+        EXPECT_EQ(rowsOf(model), test::ListReader::rowsOf(list));
         break;
       default:
         list.AddItem(numbered(step));

@@ -22,12 +22,7 @@ class FaultFile final : public OpenFile {
     return real_->readAt(offset, into);
   }
   void writeAt(std::uint64_t offset, BytesView bytes) override {
-    files_.note("file write", path_);
-    if (files_.fails()) {
-      if (files_.tearsWrites) real_->writeAt(offset, bytes.substr(0, bytes.size() / 2));
-      files_.fail();
-    }
-    real_->writeAt(offset, bytes);
+    files_.write("file write", path_, bytes, [&](BytesView part) { real_->writeAt(offset, part); });
   }
   void cutTo(std::uint64_t bytes) override {
     files_.step("file cut", path_);
@@ -69,6 +64,14 @@ void FaultFiles::step(const char* operation, const Text& path, const Text& other
   if (fails()) fail();
 }
 
+void FaultFiles::write(const char* operation, const Text& path, BytesView bytes,
+                       const std::function<void(BytesView)>& writer) {
+  note(operation, path);
+  const bool failing = fails();
+  if (!failing || tearsWrites) writer(failing ? bytes.substr(0, bytes.size() / 2) : bytes);
+  if (failing) fail();
+}
+
 bool FaultFiles::fails() {
   if (nth_ == 0) return false;
   if (--nth_ > 0) return false;
@@ -107,21 +110,11 @@ Bytes FaultFiles::readAll(const Text& path) {
 }
 
 void FaultFiles::writeAll(const Text& path, BytesView bytes) {
-  note("writeAll", path);
-  if (fails()) {
-    if (tearsWrites) real_.writeAll(path, bytes.substr(0, bytes.size() / 2));
-    fail();
-  }
-  real_.writeAll(path, bytes);
+  write("writeAll", path, bytes, [&](BytesView part) { real_.writeAll(path, part); });
 }
 
 void FaultFiles::append(const Text& path, BytesView bytes) {
-  note("append", path);
-  if (fails()) {
-    if (tearsWrites) real_.append(path, bytes.substr(0, bytes.size() / 2));
-    fail();
-  }
-  real_.append(path, bytes);
+  write("append", path, bytes, [&](BytesView part) { real_.append(path, part); });
 }
 
 void FaultFiles::makeFolder(const Text& path) {

@@ -61,6 +61,9 @@ class FaultFiles final : public platform::Files {
   void note(const char* operation, const Text& path, const Text& other = {});
   /// Notes an operation, and fails where it is its turn.
   void step(const char* operation, const Text& path, const Text& other = {});
+  /// The same for a write.
+  void write(const char* operation, const Text& path, BytesView bytes,
+             const std::function<void(BytesView)>& writer);
   bool fails();
   [[noreturn]] void fail();
 

@@ -1,24 +1,19 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <string>
-#include <vector>
 
 #include "app/house.h"
 #include "core/number_text.h"
-#include "core/text.h"
 #include "platform/file_error.h"
 #include "system/posix_files.h"
 #include "tests/support/fake_media_player.h"
 #include "tests/support/fault_files.h"
+#include "tests/support/list_reader.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/scripted_dialogs.h"
 #include "tests/support/temp_folder.h"
 
 namespace velmora::test {
-
-using Names = std::vector<std::string>;
-using Texts = std::vector<Text>;
 
 /// A trash that is a folder beside the music, and that refuses one path.
 struct FolderTrash final : platform::Trash {
@@ -42,7 +37,7 @@ struct FolderTrash final : platform::Trash {
 
 /// Every room of the program, built as the program builds them and open to the test, over real files in a
 /// folder of their own and with a scripted user. No control is wired, and nothing starts by itself.
-struct HouseWorld : testing::Test {
+struct HouseWorld : testing::Test, ListReader {
   TempFolder folder;
   system::PosixFiles disk;
   FaultFiles files{disk};  ///< what the rooms and the trash see of the disk
@@ -59,18 +54,6 @@ struct HouseWorld : testing::Test {
   core::DataFolder& data = house.data;
   ui::Progress& progress = house.progress;
   review::UndoJournal& journal = house.journal;
-
-  static Texts rowsOf(const ui::ListBox& list) {
-    Texts rows;
-    for (int index = 0; index < list.ListCount(); ++index) rows.push_back(list.List(index));
-    return rows;
-  }
-  /// The same as bytes, which a failed test can print.
-  static Names rows(const ui::ListBox& list) {
-    Names names;
-    for (const Text& row : rowsOf(list)) names.push_back(core::toBytes(row));
-    return names;
-  }
 };
 
 }  // namespace velmora::test

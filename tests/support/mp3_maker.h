@@ -6,8 +6,8 @@
 
 #include "platform/text.h"
 
-/// Makes the bytes of songs: audio that any decoder plays, the tags that other programs write, and songs with
-/// one damage each. Tests, fuzzers and the corpus maker take their songs from here.
+/// Makes the bytes of songs: audio that any decoder plays, and the tags that other programs write. Tests and
+/// the corpus maker take their songs from here.
 namespace velmora::test {
 
 enum class ChannelMode { Stereo, JointStereo, DualChannel, Mono };
@@ -79,12 +79,5 @@ class Id3v2Maker {
 /// 4 bytes, the most significant first; with 7 bits in each for a synchsafe number.
 Bytes plain32(std::uint32_t number);
 Bytes synchsafe32(std::uint32_t number);
-
-/// A song with one thing wrong with it.
-struct DamagedSong {
-  const char* damage;
-  Bytes bytes;
-};
-std::vector<DamagedSong> damagedSongs();
 
 }  // namespace velmora::test

@@ -188,18 +188,6 @@ TEST_F(ID3v2Write, AFrameWithoutANameFailsBeforeTheFileIsTouched) {
   EXPECT_EQ(folder.read(u"song.mp3"), "");
 }
 
-TEST_F(ID3v2Write, DamagedSongsKeepTheirAudio) {
-  for (const auto& song : test::damagedSongs()) {
-    if (song.bytes.empty()) continue;
-    SCOPED_TRACE(song.damage);
-    auto tag = tagOf(song.bytes);
-    tag.setTitle(u"Song");
-    EXPECT_EQ(tag.Update(context()), UpdateResult::Done);
-    EXPECT_GE(folder.read(u"song.mp3").size(), song.bytes.size());
-    EXPECT_EQ(files.list(folder.path()).entries.size(), 1U);
-  }
-}
-
 TEST_F(ID3v2Write, GrowthKeepsModeAndFollowsLinks) {
   auto tag = tagOf(audio);
   ASSERT_EQ(::chmod(folder.native(u"song.mp3").c_str(), 0640), 0);

@@ -2,9 +2,6 @@
 
 #include <functional>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "platform/file_error.h"
 #include "tags/id3v1.h"
@@ -130,25 +127,6 @@ TEST_F(TagFaults, ADiskThatGetsFullLeavesTheSongWhole) {
   writing<cMP3ID3v2>()(files, path);
   EXPECT_EQ(folder.read(u"song.mp3"), large);
   EXPECT_EQ(files.list(folder.path()).entries.size(), 1U);
-}
-
-TEST_F(TagFaults, AKillInTheMiddleOfGrowthLeavesTheOldOrTheNewSong) {
-  const Bytes large = test::mpegFrames(2000);
-  const Text path = folder.write(u"song.mp3", large);
-  for (int microseconds = 0; microseconds < 3000; microseconds += 250) {
-    const pid_t child = ::fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-      writing<cMP3ID3v2>()(files, path);
-      ::_exit(0);
-    }
-    ::usleep(static_cast<useconds_t>(microseconds));
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-    const Bytes now = folder.read(u"song.mp3");
-    ASSERT_TRUE(now == large || (now.size() == large.size() + 2048 && now.substr(2048) == large));
-    folder.write(u"song.mp3", large);
-  }
 }
 
 }  // namespace

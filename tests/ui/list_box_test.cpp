@@ -1,22 +1,17 @@
 #include "ui/list_box.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/list_reader.h"
 
 namespace velmora::ui {
 namespace {
 
-struct ListBoxTest : testing::Test {
+struct ListBoxTest : testing::Test, test::ListReader {
   ListBox list;
   int clicks = 0;
 
   void SetUp() override {
     list.fill({u"a", u"b", u"c", u"d"});
     list.onClick = [&] { ++clicks; };
-  }
-  std::vector<Text> texts(const ListBox& of) const {
-    std::vector<Text> all;
-    for (int i = 0; i < of.ListCount(); ++i) all.push_back(of.List(i));
-    return all;
   }
 };
 
@@ -58,7 +53,7 @@ TEST_F(ListBoxTest, RemovingAndInsertingKeepsMarksOnTheirRows) {
   list.RemoveItem(2);
   EXPECT_EQ(list.selectedIndexes(), (std::vector<int>{3}));
   EXPECT_EQ(list.SelCount(), 1);
-  EXPECT_EQ(texts(list), (std::vector<Text>{u"new", u"a", u"c", u"d"}));
+  EXPECT_EQ(rows(list), (test::Names{"new", "a", "c", "d"}));
   list.setTopIndex(50);
   EXPECT_EQ(list.TopIndex(), 3);
   while (list.ListCount() > 0) list.RemoveItem(0);
@@ -83,7 +78,7 @@ TEST_F(ListBoxTest, ASingleListHasOneMarkAndADisabledOneListensToCodeAlone) {
 TEST_F(ListBoxTest, SortedListPlacesRowsWithoutRegardToCase) {
   ListBox sorted(ListBox::Selection::Multi, true);
   for (const char16_t* text : {u"beta", u"Alpha", u"gamma", u"alpha", u"BETA"}) sorted.AddItem(text);
-  EXPECT_EQ(texts(sorted), (std::vector<Text>{u"Alpha", u"alpha", u"beta", u"BETA", u"gamma"}));
+  EXPECT_EQ(rows(sorted), (test::Names{"Alpha", "alpha", "beta", "BETA", "gamma"}));
 }
 
 TEST_F(ListBoxTest, FillingIsOneNoticeForTheView) {

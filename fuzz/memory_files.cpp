@@ -1,9 +1,9 @@
-#include "tests/support/memory_files.h"
+#include "fuzz/memory_files.h"
 
 #include "platform/file_error.h"
 #include "tests/support/memory_file.h"
 
-namespace velmora::test {
+namespace velmora::fuzz {
 
 using platform::FileError;
 
@@ -27,7 +27,7 @@ std::uint64_t MemoryFiles::size(const Text& path) {
 }
 
 std::unique_ptr<platform::OpenFile> MemoryFiles::open(const Text& path, platform::OpenMode) {
-  return std::make_unique<MemoryFile>(find(path));
+  return std::make_unique<test::MemoryFile>(find(path));
 }
 
 std::unique_ptr<platform::OpenFile> MemoryFiles::create(const Text& path) {
@@ -63,4 +63,4 @@ void MemoryFiles::removeEmptyFolder(const Text&) {
   throw FileError(FileError::pathNotFound);
 }
 
-}  // namespace velmora::test
+}  // namespace velmora::fuzz

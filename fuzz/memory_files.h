@@ -5,7 +5,7 @@
 
 #include "platform/files.h"
 
-namespace velmora::test {
+namespace velmora::fuzz {
 
 /// A handful of files in memory, for fuzzers that write thousands of songs a second. It knows what a tag
 /// writer asks for; anything else throws FileError.
@@ -41,4 +41,4 @@ class MemoryFiles final : public platform::Files {
   const std::shared_ptr<Bytes>& find(const Text& path) const;
 };
 
-}  // namespace velmora::test
+}  // namespace velmora::fuzz
