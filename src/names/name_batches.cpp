@@ -83,13 +83,16 @@ void NameBatches::insertNumber(int row, const Text& digits, ui::TextBox& tagBox)
   const tags::OwnValues ownValues(parts_.form1);
   tags::OpenSong song(parts_.files, track.nizdes.text());
   parts_.panel.info(song, row);
+  // The dash that is stored next may cut the artist's own name in two, which the tags must not follow.
+  const Text artist = trimmed(track.pevac.text());
+  const Text title = trimmed(track.pesma.text());
   findFirstDash(row);
   if (!track.imaid3v1.isTrue() && !track.imaid3v2.isTrue()) return;
   const ui::TagPanel& panel = parts_.form1.tags;
   parts_.tagWriter.write(song, panel.writeID3v1.checked(), panel.writeID3v2.checked(), [&] {
     tagBox.setText(digits);
-    parts_.form1.tags.artist.setText(trimmed(track.pevac.text()));
-    parts_.form1.tags.title.setText(trimmed(track.pesma.text()));
+    parts_.form1.tags.artist.setText(artist);
+    parts_.form1.tags.title.setText(title);
   });
 }
 

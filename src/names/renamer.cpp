@@ -48,7 +48,8 @@ void Renamer::rename(int row, bool withUndo) {
   table.currentRow = row;
   const OldName old{table.path(row), table.track(row).pevac.text(), table.track(row).pesma.text()};
   cleanBox();
-  if (pathFromBox(old.path) == old.path) return;
+  // With nothing left of its name, a file would be hidden from the user.
+  if (parts_.form1.Text1.text().empty() || pathFromBox(old.path) == old.path) return;
 
   player::FileHandOver handOver(parts_.player, old.path);
   if (handOver.held() && parts_.desktop.systemVersion() < pauseBelowVersion)

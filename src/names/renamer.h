@@ -38,8 +38,8 @@ class Renamer {
 
   /// Gives the file of `row` the name in the name box, cleaned and, where another file has it, with blanks
   /// behind it; the box shows the name that was taken. With `withUndo` the rename is journalled, and tags
-  /// that equal the old name follow the new one. A name that is the old one changes nothing. Failures are
-  /// shown.
+  /// that equal the old name follow the new one. A name that is the old one, or empty, changes nothing.
+  /// Failures are shown.
   RenameResult PromeniIme(int row, bool withUndo);
 
  private:

@@ -43,17 +43,31 @@ void TagBatches::update() {
         return true;
       });
   } else {
-    parts_.frame.run(u"Update ID3 Tags ...", rows, [this](int row) {
-      {
-        const tags::KeptWriteMarks marks(parts_.form1.tags);
-        parts_.fields.blankUnticked();
-        parts_.panel.info(parts_.table.path(row), row);
-      }
-      parts_.tagWriter.UpdateTags();
-      return true;
-    });
+    parts_.frame.run(u"Update ID3 Tags ...", rows,
+                     [this, first = parts_.form1.tags.viewID3v1.chosen()](int row) {
+                       updateOneOfSeveral(row, first);
+                       return true;
+                     });
   }
   button.setEnabled(true);
+}
+
+void TagBatches::updateOneOfSeveral(int row, bool first) {
+  ui::TagPanel& panel = parts_.form1.tags;
+  {
+    const tags::KeptWriteMarks marks(panel);
+    // The file before may have had the other tag alone.
+    ui::OptionButton& wanted = first ? panel.viewID3v1 : panel.viewID3v2;
+    if (!wanted.chosen()) wanted.setChosen(true);
+    parts_.fields.blankUnticked();
+    parts_.panel.info(parts_.table.path(row), row);
+    // Blank boxes would be written over the one tag that the file has.
+    if (!first && panel.viewID3v1.enabled() && !panel.viewID3v2.enabled()) {
+      panel.viewID3v1.setChosen(true);
+      parts_.panel.showTags();
+    }
+  }
+  parts_.tagWriter.UpdateTags();
 }
 
 }  // namespace velmora::names

@@ -30,6 +30,10 @@ class TagBatches {
   void update();
 
  private:
+  /// Shows one file among several, with its ID3v1 or its ID3v2 tag in view, or the only one that it has, and
+  /// writes what the panel shows.
+  void updateOneOfSeveral(int row, bool first);
+
   Parts parts_;
 };
 

@@ -60,16 +60,18 @@ TEST_F(NameBatches, RemovedNumbersGoIntoTheTagsWhereChosen) {
   add({{u"07 Arvola - Harbour",
         {.title = u"x", .artist = u"y", .album = u"First Album"},
         {.title = u"x", .artist = u"y", .album = u"An album whose name is longer than thirty"}},
-       {u"08 Arvola - Bare"}});
+       {u"08 Arvola - Bare"},
+       {u"Ko - Ra - 09 Thunder", {.title = u"09 Thunder", .artist = u"Ko - Ra"}}});
   program.windows().dialog2.fix10.setChecked(true);
   form1().tags.writeID3v1.setChecked(true);
   form1().tags.writeID3v2.setChecked(true);
   selectAll();
   click(tools().removeTrackNumber);
-  EXPECT_EQ(names(), (Names{"Arvola - Bare", "Arvola - Harbour"}));
+  EXPECT_EQ(names(), (Names{"Arvola - Bare", "Arvola - Harbour", "Ko - Ra - Thunder"}));
   EXPECT_EQ(first(u"Arvola - Harbour"), "Arvola|Harbour|First Album||7");
   EXPECT_EQ(second(u"Arvola - Harbour"), "Arvola|Harbour|An album whose name is longer than thirty||07");
   EXPECT_EQ(first(u"Arvola - Bare"), "none") << "no tag is made for a number";
+  EXPECT_EQ(first(u"Ko - Ra - Thunder"), "Ko - Ra|Thunder|||9");
   undo();
   EXPECT_EQ(first(u"07 Arvola - Harbour"), "y|x|First Album||0");
   EXPECT_EQ(second(u"07 Arvola - Harbour"), "y|x|An album whose name is longer than thirty||");

@@ -22,6 +22,9 @@ TEST_F(RenamerTest, CleansTheBoxAndTakesTheNameThatStandsThere) {
   rename(u"old", u"  Arvola: Who?  ");
   EXPECT_EQ(names(), (Names{"Arvola  Who"})) << "each character that a name cannot hold is one blank";
   EXPECT_EQ(form1().Text1.text(), u"Arvola  Who");
+  rename(u"Arvola  Who", u" ? ");
+  EXPECT_EQ(names(), (Names{"Arvola  Who"})) << "nothing is left of the new name";
+  EXPECT_EQ(form1().Text1.text(), u"Arvola  Who");
 }
 
 TEST_F(RenamerTest, AClashIsSettledByBlanksBehindTheName) {

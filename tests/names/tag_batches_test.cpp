@@ -8,6 +8,8 @@ namespace {
 
 using Names = std::vector<std::string>;
 
+using test::SongTags;
+
 struct TagBatches : test::RepairBench {
   void mark(bool first, bool second) {
     form1().tags.writeID3v1.setChecked(first);
@@ -103,6 +105,23 @@ TEST_F(TagBatches, TickedBoxesGoOntoAllSelectedFilesAndTheOthersLeaveEachItsOwn)
   EXPECT_EQ(form1().tags.album.text(), u"");
   select({u"c"});
   EXPECT_TRUE(form1().tags.album.enabled()) << "one file can be edited as it is";
+}
+
+TEST_F(TagBatches, AFileWithoutTheTagInViewKeepsItsValuesAndTheViewStaysForTheOthers) {
+  const SongTags one{.title = u"one"};
+  const SongTags two{.title = u"two"};
+  add({{u"a", one, two}, {u"b", one, {}}, {u"c", {}, two}, {u"d", one, two}});
+  const auto share = [this](ui::OptionButton& view, const Text& album) {
+    selectAll();
+    view.setChosen(true);
+    if (!form1().fieldChecks.album.checked()) form1().fieldChecks.album.click();
+    form1().tags.album.setText(album);
+    click(form1().update);
+    return first(u"b") + ' ' + first(u"c") + ' ' + first(u"d");
+  };
+  mark(true, false);
+  EXPECT_EQ(share(form1().tags.viewID3v1, u"A"), "|one|A||0 |two|A||0 |one|A||0");
+  EXPECT_EQ(share(form1().tags.viewID3v2, u"B"), "|one|B||0 |two|B||0 |two|B||0");
 }
 
 TEST_F(TagBatches, AFileThatCannotBeWrittenEndsItsRowAlone) {
