@@ -10,8 +10,8 @@
 
 namespace velmora::app {
 
-TableLoader::TableLoader(core::TrackTable& table, const core::Settings& settings,
-                         const core::DataFolder& data, ui::Form1& form1)
+TableLoader::TableLoader(core::TrackTable& table, const core::Settings& settings, core::DataFolder& data,
+                         ui::Form1& form1)
     : table_(table), settings_(settings), data_(data), form1_(form1) {}
 
 void TableLoader::load() {

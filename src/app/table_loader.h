@@ -10,7 +10,7 @@ namespace velmora::app {
 /// Fills the whole table from the Data folder, and shows it in the Processing Window.
 class TableLoader {
  public:
-  TableLoader(core::TrackTable& table, const core::Settings& settings, const core::DataFolder& data,
+  TableLoader(core::TrackTable& table, const core::Settings& settings, core::DataFolder& data,
               ui::Form1& form1);
 
   void load();
@@ -22,7 +22,7 @@ class TableLoader {
 
   core::TrackTable& table_;
   const core::Settings& settings_;
-  const core::DataFolder& data_;
+  core::DataFolder& data_;
   ui::Form1& form1_;
 };
 

@@ -41,7 +41,10 @@ void wireForm1(House& house) {
   form1.onActivate = [&house] { house.progress.restore(); };
   form1.onDeactivate = [&house] { house.processing.storePlace(); };
 
-  form1.newList.onClick = command(house, form1, [&house] { house.listMaker.newList(); });
+  form1.newList.onClick = command(house, form1, [&house] {
+    house.listMaker.newList();
+    showUndoState(house);
+  });
   form1.add.onClick = command(house, form1, [&house] { house.listMaker.add(); });
   form1.addFolder.onClick = command(house, form1, [&house] { house.listMaker.addFolder(); });
   form1.muzickiFajlovi.onClick = command(house, form1, [&house] { house.listViews.showMusicFiles(); });
@@ -65,7 +68,6 @@ void wireForm1(House& house) {
   house.busyFile.givenUp = [&house] { return (house.progress.shown() && house.table.Stop) || house.ending; };
   house.listMaker.onCleared = [&house] {
     house.player.close();
-    showUndoState(house);
     house.newMusic.forget();
   };
   form1.folderTree.onDropFolders = [&house, &form1](const std::vector<Text>& folders) {

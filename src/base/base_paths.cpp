@@ -69,7 +69,7 @@ std::vector<Text> BaseLists::draggedFiles(const ui::ListBox& column) {
   ui::Form3& form3 = parts_.form3;
   std::vector<Text> dragged;
   const auto addFolder = [&dragged](const Text& folder) {
-    if (!folder.empty()) dragged.emplace_back(withoutSeparator(folder));
+    if (!folder.empty()) dragged.emplace_back(paths::withoutSeparator(folder));
   };
   const auto addFile = [&](int index) {
     if (Text path = filePath(index); !path.empty()) dragged.push_back(std::move(path));

@@ -24,11 +24,6 @@ Text AppendPath(TextView name) {
   return paths::withSeparator(cut);
 }
 
-TextView withoutSeparator(TextView folder) {
-  const bool cut = folder.size() > 1 && folder.back() == paths::separator;
-  return cut ? folder.substr(0, folder.size() - 1) : folder;
-}
-
 int FolderYear(TextView name) {
   return core::length(name) < yearLength ? 0 : core::intValue(core::right(name, yearLength));
 }

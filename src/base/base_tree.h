@@ -14,8 +14,6 @@ inline constexpr TextView withoutFolder = u"-<< Without Folder >>-";
 /// The name without trailing blanks and with one separator at its end. A name that holds `withoutFolder`, or
 /// nothing, gives nothing, so that it drops out of a path.
 Text AppendPath(TextView name);
-/// The path without the separator at its end.
-TextView withoutSeparator(TextView folder);
 /// The year that a folder's name or path ends in: the number that its last four characters begin with, read
 /// from their left; 0 when there is none.
 int FolderYear(TextView name);

@@ -39,11 +39,11 @@ bool FolderMoves::CollectRename(TextView source, TextView target) {
 
 /// Returns the holding folder, into which the whole folder has turned.
 Text FolderMoves::toHolding(const Text& source, const Text& target) {
-  Text holding(withoutSeparator(target));
+  Text holding(paths::withoutSeparator(target));
   // A crash may have left one behind, which must not be mixed with this one.
   do holding += holdingSuffix;
   while (parts_.files.folderExists(holding));
-  const Text origin(withoutSeparator(source));
+  const Text origin(paths::withoutSeparator(source));
   if (onMoving) onMoving(origin);
   parts_.files.moveFolder(origin, holding);
   holdings_.push_back({holding, origin});

@@ -23,7 +23,7 @@ struct Dump {
     } catch (const platform::FileError&) {
       return;
     }
-    const bool taken = years.allYears() || years.passes(withoutSeparator(folder));
+    const bool taken = years.allYears() || years.passes(core::paths::withoutSeparator(folder));
     for (const Text& name : level.files) {
       if (taken) sink(core::paths::join(folder, name));
       desktop.pumpEvents();

@@ -18,7 +18,7 @@ constexpr int newMusicWindow = 2;
 }  // namespace
 
 bool Folders::PostojiDir(TextView path) {
-  const Text folder(withoutSeparator(path));
+  const Text folder(core::paths::withoutSeparator(path));
   if (parts_.files.folderExists(folder)) return true;
   // A base whose disk is not there must not be begun anew in its place.
   if (!parts_.files.folderExists(Text(core::paths::folderPart(folder))))
@@ -30,12 +30,12 @@ bool Folders::PostojiDir(TextView path) {
 }
 
 void Folders::EnsureFolder(TextView path) {
-  parts_.files.makeFolder(Text(withoutSeparator(path)));
+  parts_.files.makeFolder(Text(core::paths::withoutSeparator(path)));
 }
 
 void Folders::RemoveEmptyTree(TextView path) {
   std::set<platform::FolderId> walked;
-  removeEmpty(Text(withoutSeparator(path)), walked);
+  removeEmpty(Text(core::paths::withoutSeparator(path)), walked);
 }
 
 void Folders::removeEmpty(const Text& folder, std::set<platform::FolderId>& walked) {

@@ -62,13 +62,23 @@ bool endsWithTail(const TrackTable& table) {
   return true;
 }
 
+/// A row of which a tag column says nothing, because its file is missing or cut short, is as good as unread:
+/// its blanks must not be taken for what the song says.
+void forgetHalfRead(TrackTable& table) {
+  int whole = table.rows();
+  for (const Column column : tagColumns())
+    if (column != &Track::procitan) whole = std::min(whole, std::max(table.upperBound(column), 0));
+  for (int row = whole + 1; row <= table.upperBound(&Track::procitan); ++row) table.track(row).procitan = {};
+}
+
 /// The working list that a stored count stands for. A count that the rows cannot bear comes from a damaged
 /// file, and one that was stored in a change that did not end may be of other rows; then every row is taken
-/// as the user's own save those of the Music Base, which no batch may touch.
-int workingRows(const TrackTable& table, int stored, bool changing) {
-  const bool tailKnown = endsWithTail(table);
-  if (stored <= table.rows() && !(changing && tailKnown)) return std::max(stored, 0);
-  return tailKnown ? table.rows() - static_cast<int>(table.bazaniz.size()) : table.rows();
+/// as the user's own save those of the Music Base, which no batch may touch. These are the Music Base list
+/// as it was found last, or else as many rows as they were before the change.
+int workingRows(const TrackTable& table, int stored, std::optional<int> markedTail) {
+  if (!markedTail && stored <= table.rows()) return std::max(stored, 0);
+  const int found = endsWithTail(table) ? static_cast<int>(table.bazaniz.size()) : 0;
+  return std::max(table.rows() - (found > 0 ? found : markedTail.value_or(0)), 0);
 }
 
 }  // namespace
@@ -77,7 +87,9 @@ DataFolder::DataFolder(platform::Files& files, Settings& settings, Text programF
     : files_(files),
       settings_(settings),
       folder_(paths::join(programFolder, u"Data")),
-      changing_(paths::join(programFolder, u"velmora.changing")) {}
+      changing_(paths::join(programFolder, u"velmora.changing")),
+      namesTold_(!files_.fileExists(changing_)),
+      tagsTold_(namesTold_) {}
 
 TextView DataFolder::fileOf(Column column) {
   const auto found = std::ranges::find(columnFiles, column, &ColumnFile::column);
@@ -167,12 +179,16 @@ std::vector<Text> DataFolder::readList(TextView fileName) const {
 }
 
 void DataFolder::savenizove(const TrackTable& table) {
+  mark();
   settings_.setNumber(u"ghb", table.brojfajlova());
   writeColumn(fileOf(&Track::nizdes), table, &Track::nizdes);
   writeColumn(fileOf(&Track::crtapos), table, &Track::crtapos);
   writeList(niznomusicFile, table.niznomusic);
   writeList(bazepesamaFile, table.bazepesama);
   writeList(autoriFile, table.autori);
+  savedTail_ = table.rows() - table.workingRows();
+  namesTold_ = true;
+  unmark();
 }
 
 /// Row by row and not column by column, so that each row is fetched from memory once for all files. Rows of
@@ -200,28 +216,47 @@ void DataFolder::SaveID3nizove(const TrackTable& table) {
       records::write(file.content, element);
     }
   }
-  beginChange();
+  mark();
   for (File& file : files) {
     records::writeNothing(file.content, file.nothing);
     store(fileOf(file.column), file.content);
   }
-  endChange();
+  tagsTold_ = true;
+  unmark();
 }
 
 void DataFolder::beginChange() {
+  namesTold_ = tagsTold_ = false;
+  mark();
+}
+
+void DataFolder::mark() {
   try {
-    if (!files_.fileExists(changing_)) files_.writeAll(changing_, {});
+    if (files_.fileExists(changing_)) return;
+    const int tail = files_.fileExists(path(fileOf(&Track::nizdes))) ? savedTail_ : 0;
+    files_.writeAll(changing_, toBytes(number(std::int64_t{tail})));
   } catch (const platform::FileError&) {
-    // Without the mark a kill may leave a row read that is not; nothing worse.
+    // Without the mark a kill may leave a row read that is not, or a count of other rows; nothing worse.
   }
 }
 
-void DataFolder::endChange() {
+void DataFolder::unmark() {
   try {
-    if (files_.fileExists(changing_)) files_.remove(changing_);
+    if (namesTold_ && tagsTold_ && files_.fileExists(changing_)) files_.remove(changing_);
   } catch (const platform::FileError&) {
     // The next start reads tags that it could have taken from the columns.
   }
+}
+
+std::optional<int> DataFolder::markedTail() const {
+  try {
+    const Text tail = fromBytes(files_.readAll(changing_));
+    // A kill before the first byte came before any change.
+    if (!tail.empty()) return std::max(intValue(tail), 0);
+  } catch (const platform::FileError&) {
+    // No mark, as after every change that has ended.
+  }
+  return std::nullopt;
 }
 
 void DataFolder::readNames(TrackTable& table) const {
@@ -237,14 +272,16 @@ void DataFolder::readNames(TrackTable& table) const {
     table.setColumn(column, std::vector<Element>(static_cast<std::size_t>(table.rows())));
 }
 
-void DataFolder::readTags(TrackTable& table) const {
+void DataFolder::readTags(TrackTable& table) {
   const bool changing = files_.fileExists(changing_);
   for (const Column column : tagColumns()) {
     const bool untrue = changing && column == &Track::procitan;
     takeColumn(table, column, untrue ? std::vector<Element>() : readColumn(fileOf(column)));
   }
+  forgetHalfRead(table);
   table.brojbaza = static_cast<int>(table.bazepesama.size());
-  table.setBrojfajlova(workingRows(table, intValue(settings_.get(u"ghb")), changing));
+  table.setBrojfajlova(workingRows(table, intValue(settings_.get(u"ghb")), markedTail()));
+  savedTail_ = table.rows() - table.workingRows();
 }
 
 }  // namespace velmora::core

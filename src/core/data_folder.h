@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "core/settings.h"
@@ -31,9 +32,10 @@ class DataFolder {
   void savenizove(const TrackTable& table);
   /// Writes the fifteen tag columns.
   void SaveID3nizove(const TrackTable& table);
-  /// Songs and rows are about to change: until SaveID3nizove has told how, a start of the program takes no
-  /// row for read and asks the files again. So a kill leaves no columns that speak of other songs. The file
-  /// velmora.changing in the program folder marks that time.
+  /// Songs and rows are about to change: until both saves above have told how, a start of the program takes
+  /// no row for read and asks the files again, and knows the rows of the Music Base by themselves. So a kill
+  /// leaves no columns that speak of other songs, and no count of other rows. Each save alone is such a
+  /// change too. The file velmora.changing in the program folder marks that time.
   void beginChange();
   /// File that a column is kept in, such as "crtapos.txt"; empty for `pevac` and `pesma`.
   static TextView fileOf(Column column);
@@ -42,17 +44,24 @@ class DataFolder {
   /// working list; then the caller derives the name parts; then readTags fills the tag columns, and takes
   /// brojbaza from `bazepesama` and brojfajlova from `ghb`, which is held within the rows.
   void readNames(TrackTable& table) const;
-  void readTags(TrackTable& table) const;
+  void readTags(TrackTable& table);
 
  private:
   /// Makes `content` the file's content, or removes the file when that is empty or cannot be written.
   void store(TextView fileName, BytesView content);
-  void endChange();
+  void mark();
+  /// Takes the mark away, unless a save is still to come.
+  void unmark();
+  /// Rows of the Music Base at the end of nizdes.txt when the mark was made; nothing without a mark.
+  std::optional<int> markedTail() const;
 
   platform::Files& files_;
   Settings& settings_;
   Text folder_;
-  Text changing_;  // full path of the mark
+  Text changing_;      // full path of the mark
+  int savedTail_ = 0;  // rows of the Music Base at the end of nizdes.txt
+  bool namesTold_;     // whether the last change, or that of a killed run, was followed by savenizove
+  bool tagsTold_;      // and by SaveID3nizove
 };
 
 }  // namespace velmora::core

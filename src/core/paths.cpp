@@ -14,6 +14,11 @@ Text withSeparator(TextView folder) {
   return out;
 }
 
+TextView withoutSeparator(TextView folder) {
+  while (folder.size() > 1 && folder.back() == separator) folder.remove_suffix(1);
+  return folder;
+}
+
 Text join(TextView folder, TextView name) {
   Text out;
   out.reserve(folder.size() + 1 + name.size());

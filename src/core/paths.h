@@ -9,6 +9,8 @@ extern const char16_t separator;
 
 /// The path with one separator at its end, unless it ends in one.
 Text withSeparator(TextView folder);
+/// The path without the separators at its end; the root keeps its own.
+TextView withoutSeparator(TextView folder);
 /// folder, one separator, name.
 Text join(TextView folder, TextView name);
 /// What stands behind the last separator: the file's name with its extension.

@@ -93,7 +93,8 @@ void ListMaker::addFolder() {
 
 void ListMaker::add() {
   if (busy()) return;
-  const Text folder = parts_.windows.form1.folderTree.path();
+  // A folder that another program names may end in a separator, and must not pass for one more folder.
+  const Text folder(core::paths::withoutSeparator(parts_.windows.form1.folderTree.path()));
   if (folder.empty()) return;
   if (!core::paths::fitsRecord(folder)) return tellLeftOut(1);
   parts_.settings.set(u"novidir", folder);
@@ -132,7 +133,9 @@ void ListMaker::makeList(const Text& folder, Found& found) {
   parts_.progress.UpdateProgress(2);
   form1.ostali.setEnabled(true);
   if (form1.List4.ListCount() == 0) findOldArtists();
+  const bool otherRows = viewOf(form1) == View::Other;
   enterView(form1, View::Music);
+  if (otherRows) listRows();
   if (!findFiles(folder, found)) return;
   form1.List4.Clear();
   storeHighest();
@@ -153,6 +156,7 @@ void ListMaker::makeList(const Text& folder, Found& found) {
   table.resizeColumns();
   const auto sizes = readTags(rowsToRead);
   findDashes();
+  parts_.data.beginChange();
   parts_.data.SaveID3nizove(table);
   collectArtists();
   parts_.data.savenizove(table);
@@ -214,8 +218,13 @@ void ListMaker::showRows() {
         u"There is to many files. Program can display only 32737 files on list. Process these files first, "
         u"then make list again for others. ",
         u"Make List", Buttons::Ok, Icon::Information);
+  listRows();
+}
+
+void ListMaker::listRows() {
+  const core::TrackTable& table = parts_.table;
   std::vector<Text> paths;
-  for (int row = 1; row <= shownRows(table.brojfajlova()); ++row) paths.push_back(table.path(row));
+  for (int row = 1; row <= shownRows(table.workingRows()); ++row) paths.push_back(table.path(row));
   parts_.windows.form1.List4.fill(std::move(paths));
 }
 

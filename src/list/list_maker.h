@@ -43,8 +43,7 @@ class ListMaker {
   };
   explicit ListMaker(const Parts& parts) : parts_(parts) {}
 
-  /// Raised by New List for what lies above: the undo buttons are disabled, the New Music Window closes, the
-  /// player lets go of its file.
+  /// Raised by New List for what lies above: the New Music Window closes, the player lets go of its file.
   std::function<void()> onCleared;
   /// Runs Artist List, when it is the review in progress.
   std::function<void()> onArtistList;
@@ -78,6 +77,7 @@ class ListMaker {
   void cutTail();
   void appendTail();
   void showRows();
+  void listRows();
   std::vector<std::optional<std::uint64_t>> readTags(int rows);
   void findDashes();
   void collectArtists();

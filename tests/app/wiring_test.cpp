@@ -101,6 +101,14 @@ TEST_F(WiringTest, CommandsAreOfferedWhenTheyCanAct) {
   EXPECT_FALSE(form1.update.enabled()) << "neither tag is to be written";
   form1.tags.writeID3v2.click();
   EXPECT_TRUE(form1.update.enabled());
+
+  program.folder.write(u"program/UndoData.txt", "\"st1\"\r\n");
+  program.faults.onOperation = [&] {
+    if (program.faults.log.back().starts_with("append")) program.faults.failAt(1);
+  };
+  program.dialogs.expectTitle(u"Clear List", platform::Answer::Ok);
+  form1.newList.click();
+  EXPECT_FALSE(form1.repair.undoLastOperation.enabled()) << "there is no journal any more";
 }
 
 TEST_F(WiringTest, ClickShowsTheRowAndUpdateWritesItsTags) {

@@ -161,6 +161,25 @@ TEST_F(DataFolderTest, AFullDiskCostsTheColumnsThatDoNotFitAndNoOther) {
   EXPECT_EQ(read(u"procitan.txt"), "\r\n#TRUE#\r\n\r\n\r\n");
 }
 
+TEST_F(DataFolderTest, ARowWithoutAnElementInEachTagColumnIsUnread) {
+  fill();
+  for (int row = 1; row <= 4; ++row) table.track(row).procitan = true;
+  data.SaveID3nizove(table);
+  data.savenizove(table);
+  const auto readRows = [this] {
+    TrackTable loaded;
+    load(loaded);
+    int read = 0;
+    for (int row = 1; row <= loaded.rows(); ++row) read += loaded.track(row).procitan.isTrue() ? 1 : 0;
+    return read;
+  };
+  EXPECT_EQ(readRows(), 4);
+  write(u"albumid3v2.txt", "\r\n\r\n\"An");
+  EXPECT_EQ(readRows(), 2);
+  data.remove(u"pevacID3v1.txt");
+  EXPECT_EQ(readRows(), 0);
+}
+
 // The column files are cut, at every length, one at a time; then the table is loaded, saved and loaded again.
 TEST_F(DataFolderTest, CutAnywhereTheWholeRowsAreLeftAndASaveKeepsThem) {
   fill();

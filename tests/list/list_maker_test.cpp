@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "core/paths.h"
 #include "core/text.h"
 #include "list/display_limit.h"
 #include "names/grammar.h"
@@ -61,7 +62,7 @@ TEST_F(ListMakerTest, AFolderBecomesRowsWithPartsArtistsAndSizes) {
 TEST_F(ListMakerTest, AFolderUnderAnAddedOneIsRefusedAndAParentAddsTheRest) {
   const Text a = song(u"music/one/a.mp3");
   const Text b = song(u"music/two/b.mp3");
-  add(u"music/one");
+  add(u"music/one/");
   for (const TextView known : {u"music/one", u"music/one/deep", u"music/one and more"}) {
     dialogs.expect(u"Files in that folder are already on list.", u"Add Files", Answer::Ok);
     add(known);
@@ -150,13 +151,56 @@ TEST_F(ListMakerTest, WhatIsLeftOutIsToldOnceAtTheEnd) {
 }
 
 TEST_F(ListMakerTest, AFolderThatCannotBeReadCanBeAddedLater) {
+  folder.write(u"other/read.txt", "");
+  add(u"other");
+  form1.ostali.click();
   dialogs.expect(u"This folder cannot be read.", u"Add Files", Answer::Ok);
   add(u"music");
-  EXPECT_EQ(table.bazepesama, Texts{});
+  EXPECT_EQ(table.bazepesama, Texts{folder.path(u"other")});
+  EXPECT_EQ(rowsOf(form1.List4), Texts{}) << "the view of the music lists no other file";
   expectAtRest();
   song(u"music/a.mp3");
   add(u"music");
   EXPECT_EQ(table.brojfajlova(), 1);
+}
+
+// What a kill leaves is read by the next start.
+TEST_F(ListMakerTest, KilledAnywhereInAnAddTheNextStartMixesNoRows) {
+  struct Killed {};
+  useBase();
+  song(u"base/Rock/Arvola/x.mp3", {.artist = u"x"});
+  song(u"base/Rock/Arvola/y.mp3", {.artist = u"y"});
+  song(u"music/one/a.mp3", {.artist = u"a"});
+  song(u"music/two/b.mp3", {.artist = u"b"});
+  int killedAt = 0;
+  for (bool killed = true; killed;) {
+    SCOPED_TRACE(++killedAt);
+    add(u"music/one");
+    song(u"base/Rock/Arvola/z" + core::plain(std::int64_t{killedAt}) + u".mp3");
+    killed = false;
+    files.onOperation = [&, left = killedAt]() mutable {
+      if (--left <= 0) throw Killed();
+    };
+    try {
+      add(u"music/two");
+    } catch (const Killed&) {
+      killed = true;
+    }
+    files.onOperation = nullptr;
+    core::TrackTable loaded;
+    data.readNames(loaded);
+    data.readTags(loaded);
+    for (int row = 1; row <= loaded.brojfajlova(); ++row)
+      EXPECT_NE(loaded.path(row).find(u"music"), Text::npos) << "a song of the base";
+    for (int row = 1; row <= loaded.rows(); ++row)
+      if (loaded.track(row).procitan.isTrue()) {
+        EXPECT_EQ(loaded.track(row).pevacID3v1.text(), core::paths::bareName(loaded.path(row)));
+      }
+    EXPECT_GE(loaded.brojfajlova(), 1);
+    dialogs.expectTitle(u"Clear List", Answer::Ok);
+    maker.newList();
+  }
+  EXPECT_GT(killedAt, 20);
 }
 
 TEST_F(ListMakerTest, StopLeavesWhatWasFoundWholeAndSaved) {
