@@ -22,8 +22,8 @@ const Text preparing = u"Preparing to move ...";
 const Text moving = u"Moving ...";
 
 /// The one selected row; the caller knows that there is just one.
-const Text& selectedText(const ui::ListBox& list) {
-  return list.List(list.selectedIndexes().front());
+int selectedIndex(const ui::ListBox& list) {
+  return list.selectedIndexes().front();
 }
 
 /// The row that was clicked last where it is selected, else the first selected one; -1 without a selection.
@@ -60,7 +60,7 @@ void MoveCommands::moveArtist() {
   if (form2_.List2.SelCount() == 0) return;
   if (form3_.List1.SelCount() != 1) return refuse(u"Select only ONE item in genre list from Base.");
   run(MoveColumn::Artist, preparing, [this](MoveCollect& collect) {
-    collect.artists(parts_.lists.chosenGenres(), parts_.base.root() + AppendPath(selectedText(form3_.List1)));
+    collect.artists(parts_.lists.chosenGenres(), parts_.base.genrePath(selectedIndex(form3_.List1)));
     return artistFolder(form2_.List2.List(clickedIndex(form2_.List2)));
   });
 }
@@ -72,9 +72,7 @@ void MoveCommands::moveAlbum() {
   if (form3_.List1.SelCount() != 1 || form3_.List2.SelCount() != 1)
     return refuse(u"Select only ONE item in genre and artist List from Base.");
   run(MoveColumn::Album, moving, [this, byTag, &albums](MoveCollect& collect) {
-    const Text artist =
-        parts_.base.root() + AppendPath(selectedText(form3_.List1)) + AppendPath(selectedText(form3_.List2));
-    collect.albums(parts_.lists.chosenGenres(), artist);
+    collect.albums(parts_.lists.chosenGenres(), parts_.base.artistPath(selectedIndex(form3_.List2)));
     const int clicked = clickedIndex(albums);
     const Text& row = albums.List(clicked);
     const Text name = byTag ? albumFolder(clicked, row) : albumFolderOfFolder(clicked, row);
@@ -87,8 +85,9 @@ void MoveCommands::moveTitle() {
   for (const ui::ListBox* list : {&form3_.List1, &form3_.List2, &form3_.List3})
     if (list->SelCount() != 1) return refuse(u"Select One Item From Genre, Artist and Album List In Base.");
   run(MoveColumn::Title, moving, [this](MoveCollect& collect) {
-    collect.titles(parts_.base.root() + AppendPath(selectedText(form3_.List1)) +
-                   AppendPath(selectedText(form3_.List2)) + AppendPath(selectedText(form3_.List3)));
+    const int album = selectedIndex(form3_.List3);
+    collect.titles(parts_.base.isWithoutFolder(album) ? parts_.base.artistPath(selectedIndex(form3_.List2))
+                                                      : parts_.base.albumPath(album));
     return Text();
   });
 }

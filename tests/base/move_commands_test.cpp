@@ -176,6 +176,35 @@ TEST_F(MoveCommandsTest, AlbumsAndTitlesGoUnderWhatIsSelectedInTheBase) {
   expectUndone();
 }
 
+/// Such a name may come from another program.
+TEST_F(MoveCommandsTest, AFolderOfTheBaseWhoseNameEndsInABlankIsNoOther) {
+  show({u"Pop/", u"Pop /Old /Hits /hit.mp3"});
+  for (const TextView name : {u"in/Alpha - one", u"in/Alpha - two", u"in/Beta - three"}) song(Text(name));
+  openBoth();
+  const auto chooseInBase = [this] {
+    click(form3.List1, {u"Pop "});
+    click(form3.List2, {u"Old "});
+    click(form3.List3, {u"Hits "});
+  };
+  click(form2.List1, {u"-<< Every Autor >>-"});
+  click(form2.List2, {u"Alpha "});
+  click(form2.List3, {u"-<< Every Songs >>-"});
+  form2.List4.select({0}, 0);
+  chooseInBase();
+  moves.moveTitle();
+  EXPECT_TRUE(there(u"Pop /Old /Hits /Alpha - one.mp3"));
+  click(form2.List2, {u"Alpha "});
+  click(form2.List3, {u"-<< Every Songs >>-"});
+  chooseInBase();
+  moves.moveAlbum();
+  EXPECT_TRUE(there(u"Pop /Old /Every Songs/Alpha - two.mp3"));
+  click(form2.List2, {u"Beta "});
+  chooseInBase();
+  dialogs.expectTitle(u"Move", Answer::Ok);
+  moves.moveArtist();
+  EXPECT_TRUE(there(u"Pop /Beta/Beta - three.mp3"));
+}
+
 TEST_F(MoveCommandsTest, FoldersOfNewMusicMoveToo) {
   show({u"Pop/"});
   song(u"Rock/cd 1/Alpha - one", {u"x", u"y", u"z"});
