@@ -1,5 +1,6 @@
 #include "system/posix_copy.h"
 
+#include <algorithm>
 #include <atomic>
 #include <dirent.h>
 #include <fcntl.h>
@@ -89,11 +90,9 @@ void copyFile(const Bytes& from, const Bytes& to) {
 }
 
 void copyLink(const Bytes& from, const Bytes& to) {
-  Bytes leadsTo(PATH_MAX, '\0');
-  const ssize_t length = ::readlink(from.c_str(), leadsTo.data(), leadsTo.size());
-  if (length < 0) throwErrno(from);
-  leadsTo.resize(static_cast<std::size_t>(length));
-  if (::symlink(leadsTo.c_str(), to.c_str()) != 0) throwErrno(to);
+  const Bytes text = linkText(from);
+  if (text.empty()) throwErrno(from);
+  if (::symlink(text.c_str(), to.c_str()) != 0) throwErrno(to);
 }
 
 void copyFolder(const Bytes& from, const Bytes& to, const struct stat& status) {
@@ -129,6 +128,13 @@ Bytes temporaryBeside(const Bytes& path) {
   static std::atomic<unsigned> counter = 0;
   return inside(parentOf(path),
                 ".velmora-" + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".part");
+}
+
+Bytes linkText(const Bytes& path) {
+  Bytes text(PATH_MAX, '\0');
+  const ssize_t length = ::readlink(path.c_str(), text.data(), text.size());
+  text.resize(static_cast<std::size_t>(std::max<ssize_t>(length, 0)));
+  return text;
 }
 
 UnfinishedCopy::~UnfinishedCopy() {

@@ -31,6 +31,9 @@ class UnfinishedCopy {
 /// may then leave a part at `to`.
 void copyEntry(const Bytes& from, const Bytes& to);
 
+/// What a symbolic link tells to lead to; empty for anything else.
+Bytes linkText(const Bytes& path);
+
 /// Removes a tree that copyEntry has copied to `copy`: just the entries that the copy has as well, so that
 /// what another program has added meanwhile stays. Throws FileError.
 void removeCopied(const Bytes& source, const Bytes& copy);

@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <memory>
 #include <stdio.h>
 #include <stdlib.h>
@@ -90,6 +91,31 @@ Bytes resolved(const Bytes& path) {
   return found ? Bytes(found.get()) : path;
 }
 
+/// A link that has moved to another folder leads where it led: a relative one is written anew, as seen from
+/// there. One that led nowhere stays as it is.
+void keepLead(const Bytes& from, const Bytes& to) {
+  struct stat led;
+  struct stat leads;
+  if (parentOf(from) == parentOf(to) || ::lstat(to.c_str(), &leads) != 0 || !S_ISLNK(leads.st_mode)) return;
+  const Bytes text = linkText(to);
+  const Bytes full = resolved(parentOf(from)) + '/' + text;
+  if (text.starts_with('/') || ::stat(full.c_str(), &led) != 0) return;
+  const auto leadsThere = [&](const Bytes& link) {
+    return ::stat(link.c_str(), &leads) == 0 && sameEntry(led, leads);
+  };
+  if (leadsThere(to)) return;
+  const Bytes relative =
+      std::filesystem::path(full).lexically_normal().lexically_relative(resolved(parentOf(to)));
+  // Where ".." goes up from behind another link, only the full path is sure.
+  for (const Bytes& written : {relative, full}) {
+    UnfinishedCopy link(temporaryBeside(to));
+    if (::symlink(written.c_str(), link.path().c_str()) != 0) return;
+    if (!leadsThere(link.path())) continue;
+    if (::rename(link.path().c_str(), to.c_str()) == 0) link.keep();
+    return;
+  }
+}
+
 }  // namespace
 
 int renameOverPlaceholder(const Bytes& from, const Bytes& to) {
@@ -147,9 +173,9 @@ void moveEntry(const Bytes& from, const Bytes& to) {
   }
   if (to.starts_with(from + '/')) throw FileError(FileError::pathAccess);  // a folder into itself
   const int code = renameNoReplace(from, to);
-  if (code == 0) return;
-  if (code == EXDEV) {
-    moveAcross(from, to);
+  if (code == EXDEV) moveAcross(from, to);
+  if (code == 0 || code == EXDEV) {
+    keepLead(from, to);
   } else if (code == EEXIST && onlyRespelled(from, to)) {
     respell(from, to);
   } else {

@@ -94,6 +94,26 @@ TEST_F(MoveTest, ALinkMovesAsALink) {
   EXPECT_EQ(folder.read(u"song"), "x");
 }
 
+TEST_F(MoveTest, ALinkLeadsWhereItLedFromAnyFolder) {
+  folder.write(u"store/song", "x");
+  folder.mkdir(u"deep/base");
+  folder.mkdir(u"in/a");
+  ASSERT_EQ(::symlink("deep/base", folder.native(u"base").c_str()), 0);
+  ASSERT_EQ(::symlink("../../store/song", folder.native(u"in/a/link").c_str()), 0);
+  for (const TextView there : {u"link", u"base/link", u"deep/link", u"in/a/link"}) {
+    const Text from = there == u"link"        ? u"in/a/link"
+                      : there == u"base/link" ? u"link"
+                      : there == u"deep/link" ? u"base/link"
+                                              : u"deep/link";
+    files.move(folder.path(from), folder.path(Text(there)));
+    EXPECT_EQ(folder.read(there), "x") << core::toBytes(there);
+    EXPECT_TRUE(S_ISLNK(statusOf(folder.path(Text(there))).st_mode));
+  }
+  Bytes text(16, ' ');
+  EXPECT_EQ(::readlink(folder.native(u"in/a/link").c_str(), text.data(), text.size()), 16);
+  EXPECT_EQ(text, "../../store/song") << "back at its place it is as it was";
+}
+
 TEST_F(MoveTest, DisksWithoutACheckedRenameDoNotOverwriteEither) {
   for (const auto rename : {renameByLink, renameOverPlaceholder}) {
     folder.write(u"a", "a");
