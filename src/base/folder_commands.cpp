@@ -56,6 +56,12 @@ bool FolderCommands::reported(const Text& title, const std::function<void()>& st
   }
 }
 
+/// A folder that has gone since it was listed, or that a row of two of one name leads to in vain, holds
+/// nothing to change.
+bool FolderCommands::there(const Text& folder) const {
+  return !folder.empty() && parts_.files.folderExists(folder);
+}
+
 /// A row that leads to a genre that is not selected, as one of two artists of one name may, would change what
 /// nobody asked for.
 std::vector<int> FolderCommands::selectedArtists() const {
@@ -138,7 +144,7 @@ void FolderCommands::ren(ui::ListBox& column, const Text& busyText, const Renami
   Renamings real;
   std::set<Text> taken;  // two rows may lead to one folder
   for (const Renaming& one : renamings)
-    if (!one.from.empty() && one.from != one.to && taken.insert(one.from).second) real.push_back(one);
+    if (there(one.from) && one.from != one.to && taken.insert(one.from).second) real.push_back(one);
   const Busy busy(parts_.windows, parts_.progress, busyText);
   if (!moveFiles(real)) return;
   const bool removed = reported(renameTitle, [&] {
@@ -209,13 +215,13 @@ void FolderCommands::del(ui::ListBox& column, const std::vector<Text>& folders, 
   std::vector<Text> files;
   const bool collected = reported(deleteTitle, [&] {
     for (const Text& folder : folders)
-      if (!folder.empty()) std::ranges::move(parts_.trash.CollectDelete(folder), std::back_inserter(files));
+      if (there(folder)) std::ranges::move(parts_.trash.CollectDelete(folder), std::back_inserter(files));
   });
   if (!collected) return;
   parts_.trash.Delete(files);
   const bool removed = reported(deleteTitle, [&] {
     for (const Text& folder : folders)
-      if (!folder.empty()) parts_.folders.RemoveEmptyTree(folder);
+      if (there(folder)) parts_.folders.RemoveEmptyTree(folder);
   });
   if (removed) listAnew(column, rebuild, false);
 }

@@ -59,6 +59,7 @@ class FolderCommands {
   ui::Form3& form3() { return parts_.windows.form3; }
   bool confirmed(const Text& question, const Text& title) const;
   bool nameGiven(const Text& name) const;
+  bool there(const Text& folder) const;
   std::vector<int> selectedArtists() const;
   std::vector<int> selectedAlbums();
   void ren(ui::ListBox& column, const Text& busyText, const Renamings& renamings, const Rebuild& rebuild);

@@ -21,7 +21,7 @@ class FolderMoves {
     player::FileHolder& player;
     Folders& folders;
   };
-  explicit FolderMoves(const Parts& parts) : parts_(parts), walk_(parts.files) {}
+  explicit FolderMoves(const Parts& parts) : parts_(parts), walk_(parts.files, FolderWalk::Links::AreFiles) {}
   ~FolderMoves() { giveBack(); }
   FolderMoves(const FolderMoves&) = delete;
   FolderMoves& operator=(const FolderMoves&) = delete;
@@ -36,10 +36,10 @@ class FolderMoves {
   };
   const std::vector<Move>& moves() const { return moves_; }
 
-  /// Adds the moves that bring all files of `source` to `target`, and makes the target's folders. Subfolders
-  /// are left out where the target lies inside the source. Where the two differ in capitals alone, the source
-  /// becomes a holding folder first, so that no file would move onto itself. Returns true when the command
-  /// has to stop, after a message.
+  /// Adds the moves that bring all files of `source` to `target`, and makes the target's folders. A link
+  /// counts as a file, wherever it leads. Subfolders are left out where the target lies inside the source.
+  /// Where the two differ in capitals alone, the source becomes a holding folder first, so that no file would
+  /// move onto itself. Returns true when the command has to stop, after a message.
   bool CollectRename(TextView source, TextView target);
   /// Moves one file, which never overwrites another; a failure asks. The player that holds the file goes on.
   /// Returns true when the user chose Abort.

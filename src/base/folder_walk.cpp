@@ -42,7 +42,9 @@ FolderWalk::Level FolderWalk::enter(const Text& folder) {
   Level level;
   if (!walked_.insert(listing.id).second) return level;
   for (platform::FolderEntry& entry : listing.entries) {
-    auto& names = entry.kind == platform::EntryKind::Folder ? level.folders : level.files;
+    const bool folderToEnter =
+        entry.kind == platform::EntryKind::Folder && (!entry.link || links_ == Links::AreFolders);
+    auto& names = folderToEnter ? level.folders : level.files;
     names.push_back(std::move(entry.name));
   }
   return level;
@@ -50,7 +52,7 @@ FolderWalk::Level FolderWalk::enter(const Text& folder) {
 
 void FolderFileDump(platform::Files& files, platform::Desktop& desktop, const YearFilter& years,
                     const Text& folder, const std::function<void(const Text& path)>& sink) {
-  Dump{FolderWalk(files), desktop, years, sink}.run(folder);
+  Dump{FolderWalk(files, FolderWalk::Links::AreFolders), desktop, years, sink}.run(folder);
 }
 
 }  // namespace velmora::base

@@ -15,10 +15,14 @@ namespace velmora::base {
 /// real folder once, however many links lead to it.
 class FolderWalk {
  public:
-  explicit FolderWalk(platform::Files& files) : files_(files) {}
+  /// What a link to a folder is to the walk. Who moves or deletes must not reach through it to what lies
+  /// outside of the tree: the link goes as it is.
+  enum class Links { AreFolders, AreFiles };
+
+  FolderWalk(platform::Files& files, Links links) : files_(files), links_(links) {}
 
   struct Level {
-    std::vector<Text> files;    ///< names of all entries that are no folder
+    std::vector<Text> files;    ///< names of all other entries
     std::vector<Text> folders;  ///< names of the subfolders
   };
   /// What lies directly in a folder; nothing when the walk was there before. Throws FileError.
@@ -26,6 +30,7 @@ class FolderWalk {
 
  private:
   platform::Files& files_;
+  Links links_;
   std::set<platform::FolderId> walked_;
 };
 

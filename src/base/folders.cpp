@@ -42,7 +42,7 @@ void Folders::removeEmpty(const Text& folder, std::set<platform::FolderId>& walk
   if (!parts_.files.folderExists(folder)) return;
   const platform::FolderListing listing = parts_.files.list(folder);
   const bool holdsFile = std::ranges::any_of(listing.entries, [](const platform::FolderEntry& entry) {
-    return entry.kind != platform::EntryKind::Folder;
+    return entry.kind != platform::EntryKind::Folder || entry.link;
   });
   if (holdsFile || !walked.insert(listing.id).second) return;
   for (const platform::FolderEntry& entry : listing.entries)

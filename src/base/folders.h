@@ -23,8 +23,8 @@ class Folders {
   bool PostojiDir(TextView path);
   /// Makes the folder when it is missing; the journal is not told. Throws FileError.
   void EnsureFolder(TextView path);
-  /// Removes a folder and its subfolders as far as they hold no files; below a folder that holds one, nothing
-  /// is changed. A missing folder is no failure. Throws FileError.
+  /// Removes a folder and its subfolders as far as they hold no files and no links; below a folder that holds
+  /// one, nothing is changed. A missing folder is no failure. Throws FileError.
   void RemoveEmptyTree(TextView path);
 
  private:

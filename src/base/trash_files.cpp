@@ -20,7 +20,7 @@ void collect(FolderWalk& walk, const Text& folder, std::vector<Text>& paths) {
 
 std::vector<Text> TrashFiles::CollectDelete(const Text& folder) {
   std::vector<Text> paths;
-  FolderWalk walk(parts_.files);
+  FolderWalk walk(parts_.files, FolderWalk::Links::AreFiles);
   collect(walk, folder, paths);
   return paths;
 }

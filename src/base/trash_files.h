@@ -26,8 +26,8 @@ class TrashFiles {
   /// Raised before a file goes, for the external player that may play it.
   std::function<void(const Text& path)> onDeleting;
 
-  /// Paths of all files in and below a folder: each folder's own before those of its subfolders. A real
-  /// folder is walked once, however many links lead to it. Throws FileError.
+  /// Paths of all files in and below a folder: each folder's own before those of its subfolders. A link
+  /// counts as a file, wherever it leads. Throws FileError.
   std::vector<Text> CollectDelete(const Text& folder);
   /// Sends the files in this order, and moves the bar. A file that cannot go stays, without a word. Ends
   /// early on Stop.

@@ -24,7 +24,7 @@ void YearFilter::load(int currentYear) {
   for (int back = 0; back <= yearsBack; ++back) rows.push_back(core::plain(std::int64_t{currentYear - back}));
   form3_.years.List9.fill(std::move(rows));
   form3_.years.frame.setVisible(false);
-  selectStored(false);
+  selectApplied(false);
   colourButton();
 }
 
@@ -55,27 +55,35 @@ void YearFilter::ok() {
   form3_.years.frame.setVisible(false);
   colourButton();
   const Text chosen = StanjeLista9();
-  if (chosen == settings_.get(key)) return;
+  if (chosen == applied()) return;
   if (onApplied) onApplied();
   settings_.set(key, chosen);
+  noneApplied_ = chosen.empty();
 }
 
 void YearFilter::cancel() {
   if (!form3_.years.frame.visible()) return;
   form3_.years.List9.clearSelection();
-  selectStored(true);
+  selectApplied(true);
   form3_.years.frame.setVisible(false);
 }
 
-/// Rows that are no more count for nothing, and with none left all years are shown.
-void YearFilter::selectStored(bool yearsPutAllOut) {
+/// The choice in force, in the form of StanjeLista9.
+Text YearFilter::applied() const {
+  const Text stored = settings_.get(key);
+  return stored.empty() && !noneApplied_ ? core::number(std::int64_t{allRow}) + u',' : stored;
+}
+
+/// Rows that are no more count for nothing, and with none left of some all years are shown.
+void YearFilter::selectApplied(bool yearsPutAllOut) {
   ui::ListBox& list = form3_.years.List9;
-  const ui::ListState stored = ui::readListState(settings_.get(key) + u':', 1);
+  const Text rows = applied();
+  const ui::ListState stored = ui::readListState(rows + u':', 1);
   for (const int row : stored.front()) {
     if (yearsPutAllOut && row > allRow) list.setSelected(allRow, false);
     list.setSelected(row, true);
   }
-  if (list.SelCount() == 0) list.setSelected(allRow, true);
+  if (list.SelCount() == 0 && !rows.empty()) list.setSelected(allRow, true);
 }
 
 void YearFilter::colourButton() {

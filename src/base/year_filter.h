@@ -33,12 +33,14 @@ class YearFilter {
   void cancel();
 
  private:
-  void selectStored(bool yearsPutAllOut);
+  Text applied() const;
+  void selectApplied(bool yearsPutAllOut);
   void colourButton();
 
   core::Settings& settings_;
   ui::Form3& form3_;
   int currentYear_ = 0;
+  bool noneApplied_ = false;  // an empty setting tells of a choice, not of none made yet
 };
 
 }  // namespace velmora::base

@@ -20,6 +20,7 @@ enum class EntryKind {
 struct FolderEntry {
   Text name;
   EntryKind kind;
+  bool link = false;  ///< the entry itself is a symbolic link, to what `kind` tells
 };
 
 /// Tells two folders apart whatever the paths that lead to them, so that a walk can notice a circle of links.

@@ -94,20 +94,15 @@ EntryKind kindOf(mode_t mode) {
   return S_ISDIR(mode) ? EntryKind::Folder : EntryKind::Other;
 }
 
-EntryKind kindOf(int folder, const dirent64& entry) {
-  switch (entry.d_type) {
-    case DT_REG:
-      return EntryKind::File;
-    case DT_DIR:
-      return EntryKind::Folder;
-    case DT_LNK:
-    case DT_UNKNOWN: {
-      struct stat status;
-      return ::fstatat(folder, entry.d_name, &status, 0) == 0 ? kindOf(status.st_mode) : EntryKind::Other;
-    }
-    default:
-      return EntryKind::Other;
-  }
+platform::FolderEntry entryOf(int folder, const dirent64& entry) {
+  const auto status = [&](int flags) {
+    struct stat found = {};
+    return ::fstatat(folder, entry.d_name, &found, flags) == 0 ? found.st_mode : mode_t{0};
+  };
+  mode_t mode = DTTOIF(entry.d_type);
+  if (entry.d_type == DT_UNKNOWN) mode = status(AT_SYMLINK_NOFOLLOW);
+  const bool link = S_ISLNK(mode);
+  return {core::fromBytes(entry.d_name), kindOf(link ? status(0) : mode), link};
 }
 
 /// The nearest folder at or above a path that exists, with links resolved.
@@ -147,7 +142,7 @@ platform::FolderListing PosixFiles::list(const Text& folder) {
       at += entry.d_reclen;
       const BytesView name = entry.d_name;
       if (name == "." || name == "..") continue;
-      listing.entries.push_back({core::fromBytes(name), kindOf(descriptor.get(), entry)});
+      listing.entries.push_back(entryOf(descriptor.get(), entry));
     }
   }
 }

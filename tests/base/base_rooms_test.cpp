@@ -73,15 +73,17 @@ TEST_F(FoldersTest, OnlyFoldersWithoutFilesAreRemoved) {
   EXPECT_TRUE(there(u"i/k")) << "beside a file nothing is looked at";
 }
 
-TEST_F(FoldersTest, LinksAreNotFollowedInCirclesNorRemoved) {
-  make({u"a/b/", u"kept/song.mp3"});
+TEST_F(FoldersTest, LinksAreNeitherFollowedNorRemoved) {
+  make({u"a/b/", u"kept/song.mp3", u"kept/empty/"});
   ASSERT_EQ(::symlink(folder.native(u"base/a").c_str(), folder.native(u"base/a/b/back").c_str()), 0);
   ASSERT_EQ(::symlink(folder.native(u"base/kept").c_str(), folder.native(u"base/link").c_str()), 0);
+  ASSERT_EQ(::symlink("../kept/empty", folder.native(u"base/a/out").c_str()), 0);
   folders.RemoveEmptyTree(at(u"a"));
   folders.RemoveEmptyTree(at(u"link"));
   EXPECT_TRUE(there(u"a/b/back"));
   EXPECT_TRUE(there(u"link/song.mp3"));
-  EXPECT_EQ(room.trash.CollectDelete(at(u"a")), std::vector<Text>{});
+  EXPECT_TRUE(there(u"kept/empty")) << "what lies outside of the tree stays";
+  EXPECT_EQ(room.trash.CollectDelete(at(u"a")), (std::vector<Text>{at(u"a/out"), at(u"a/b/back")}));
 }
 
 struct NewFoldersTest : test::BaseWorld {
@@ -178,6 +180,14 @@ TEST_F(YearFilterTest, OnlyFoldersOfTheSelectedYearsAreShown) {
 }
 
 TEST_F(YearFilterTest, CancelShowsWhatWasApplied) {
+  choose({0});
+  EXPECT_EQ(applied, 0) << "as all years are at first";
+  choose({});
+  EXPECT_EQ(applied, 1);
+  years.open();
+  form3.years.List9.setSelected(0, true);
+  years.cancel();
+  EXPECT_EQ(years.StanjeLista9(), u"");
   choose({2001, 1999});
   years.open();
   form3.years.List9.clearSelection();

@@ -1,6 +1,7 @@
 #include "base/folder_commands.h"
 
 #include <algorithm>
+#include <unistd.h>
 #include <utility>
 
 #include "tests/base/base_world.h"
@@ -299,15 +300,46 @@ TEST_F(FolderCommandsTest, AFolderThatCannotBeReadEndsTheCommandWithAMessage) {
   show({u"rock/A/1.mp3"});
   click(form3.List1, {u"rock"});
   form3.Combo1.setText(u"pop");
-  folder.removeAll(u"base/rock");
+  files.failFrom(1, FileError::deviceError);
   answer(u"Are you sure you want to RENAME selected folder(s) ?", u"Rename");
-  answer(u"Unexpected error #53 occurred: File not found", u"Rename");
+  answer(u"Unexpected error #57 occurred: Device I/O error", u"Rename");
   room.folderCommands.renGenre();
   answer(u"Are you sure you want to DELETE selected folder(s) ?", u"Delete");
-  answer(u"Unexpected error #53 occurred: File not found", u"Delete");
+  answer(u"Unexpected error #57 occurred: Device I/O error", u"Delete");
   room.folderCommands.delGenre();
   EXPECT_EQ(dialogs.lastIcon, platform::Icon::Critical);
   expectAtRest();
+}
+
+TEST_F(FolderCommandsTest, AFolderThatHasGoneKeepsNoOtherFromChanging) {
+  show({u"R/A/1.mp3", u"R/B/2.mp3", u"R/C/3.mp3"});
+  click(form3.List1, {u"R"});
+  click(form3.List2, {u"A", u"B"});
+  folder.removeAll(u"base/R/A");
+  confirmDel();
+  room.folderCommands.delArtist();
+  EXPECT_EQ(rows(form3.List2), Names{"C"});
+  folder.removeAll(u"base/R/C");
+  click(form3.List2, {u"C"});
+  form3.Text2.setText(u"D");
+  confirm(u"Are you sure you want to RENAME selected folder(s)?");
+  room.folderCommands.renArtist();
+  EXPECT_FALSE(there(u"R/D"));
+  EXPECT_EQ(rows(form3.List2), Names{});
+}
+
+TEST_F(FolderCommandsTest, ALinkGoesAlongAndWhatItLeadsToStays) {
+  make({u"rock/A/1.mp3"});
+  const Text outside = folder.write(u"outside/song.mp3", "x");
+  ASSERT_EQ(::symlink("../../outside", folder.native(u"base/rock/out").c_str()), 0);
+  lists.IzlistajBazu();
+  renGenre({u"rock"}, u"Pop");
+  EXPECT_FALSE(there(u"rock"));
+  EXPECT_TRUE(there(u"Pop/out/song.mp3"));
+  answer(u"Are you sure you want to DELETE selected folder(s) ?", u"Delete");
+  room.folderCommands.delGenre();
+  EXPECT_FALSE(there(u"Pop"));
+  EXPECT_TRUE(disk.fileExists(outside));
 }
 
 }  // namespace
