@@ -6,6 +6,7 @@
 #include "app/stored_place.h"
 #include "base/base_state.h"
 #include "core/number_text.h"
+#include "core/paths.h"
 #include "list/quiet_lists.h"
 #include "tags/genre_rows.h"
 #include "ui/tips.h"
@@ -119,6 +120,11 @@ void BaseWindow::selectMainFolder() {
   const std::optional<Text> folder = parts_.dialogs.pickFolder(u"Select main folder for Your Music Base",
                                                                parts_.settings.get(baseFolderKey));
   if (!folder || folder->empty()) return;
+  if (!core::paths::fitsRecord(*folder)) {
+    parts_.dialogs.message(u"The path of the Music Base must not hold a double quote or a line break.",
+                           u"Music Base", platform::Buttons::Ok, platform::Icon::Exclamation);
+    return;
+  }
   parts_.settings.set(baseFolderKey, *folder);
   showRoot();
   parts_.lists.IzlistajBazu();

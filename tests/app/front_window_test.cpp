@@ -56,6 +56,10 @@ TEST_F(FrontWindowTest, AssortNeedsRowsAndOffersToChooseTheBase) {
   EXPECT_EQ(program.table().dirzabazu, program.musicFolder());
   EXPECT_EQ(program.form3().rootLabel.text(), program.musicFolder());
   EXPECT_NE(program.windows().form2.freeLabel.text(), u"") << "the room on the base that was just chosen";
+  program.dialogs.expectFolder(u"Select main folder for Your Music Base", program.folder.path(u"a \"b\""));
+  program.dialogs.expectTitle(u"Music Base", Answer::Ok);
+  program.form3().selectMainFolder.click();
+  EXPECT_EQ(program.settings.get(u"DirZaBazu"), program.musicFolder()) << "no record could carry the other";
 
   program.form3().showProcessingWindow.click();
   EXPECT_FALSE(program.windows().form2.visible());
