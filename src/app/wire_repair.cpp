@@ -68,8 +68,7 @@ void wireUndo(House& house) {
 void wireDelete(House& house) {
   ui::Form1& form1 = house.windows.form1;
   review::DeleteFiles& deleteFiles = house.repair.deleteFiles;
-  form1.repair.deleteFiles.onClick =
-      command(house, form1, [&deleteFiles] { deleteFiles.deleteFromList(false); });
+  form1.repair.deleteFiles.onClick = command(house, form1, [&deleteFiles] { deleteFiles.deleteByButton(); });
   deleteFiles.onSongsChanged = [&house] { house.listViews.List1Click(); };
 }
 

@@ -24,10 +24,14 @@ constexpr int processingWindow = 1;
 
 void DeleteFiles::deleteFromList(bool withoutAsking) {
   if (parts_.form1.List4.SelCount() == 0) return;
-  const bool music = list::viewOf(parts_.form1) == list::View::Music;
-  const Text question = music ? u"Are you sure you want to send selected files(s) to the Recycle Bin?"
-                              : u"Are you shure you want to send selected files(s) to the Recycle Bin?";
-  if (withoutAsking || confirmed(question)) deleteSelected();
+  if (withoutAsking || confirmed(u"Are you sure you want to send selected files(s) to the Recycle Bin?"))
+    deleteSelected();
+}
+
+void DeleteFiles::deleteByButton() {
+  if (list::viewOf(parts_.form1) == list::View::Music) return deleteFromList(false);
+  if (parts_.form1.List4.SelCount() == 0) return;
+  if (confirmed(u"Are you shure you want to send selected files(s) to the Recycle Bin?")) deleteSelected();
 }
 
 void DeleteFiles::deleteFromSongs(bool withoutAsking) {

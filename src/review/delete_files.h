@@ -45,8 +45,10 @@ class DeleteFiles {
   /// The artist list is to show its songs anew.
   std::function<void()> onSongsChanged;
 
-  /// The Delete key in the file list, and its button: asks first, unless Shift is held.
+  /// The Delete key in the file list: asks first, unless Shift is held.
   void deleteFromList(bool withoutAsking);
+  /// The button of the file list, which asks in words of its own for files that are not music.
+  void deleteByButton();
   /// The Delete key in the list of an artist's songs: asks, and then selects the line that follows.
   void deleteFromSongs(bool withoutAsking);
   /// Delete of the selected lines of the file list, music or other files.

@@ -136,6 +136,8 @@ TEST_F(DeleteFilesTest, OtherFilesGoWithoutRecords) {
   form1().ostali.click();
   form1().List4.select({0}, 0);
   const Text gone = form1().List4.List(0);
+  askFor(platform::Answer::Cancel);
+  pressDelete();
   program.dialogs.expect(u"Are you shure you want to send selected files(s) to the Recycle Bin?", u"Delete",
                          platform::Answer::Ok);
   click(tools().deleteFiles);
