@@ -4,7 +4,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTimer>
 
 #include "core/text.h"
@@ -84,21 +83,9 @@ class WalkTest : public testing::Test {
     turn();
     press("Add");
   }
-  // Answers the message box that comes up next, and keeps its text.
-  void willAnswer(QMessageBox::StandardButton button) {
-    QTimer::singleShot(0, &asked, [this, button] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_TRUE(box);
-      question = box->text();
-      box->button(button)->click();
-    });
-  }
-
   static constexpr int songs = 200;
   const Bytes settings = "\"AKTIVNIPROZOR   1\"\r\n\"SHOWTIPSASSTARTUP  False\"\r\n";
   test::TempFolder folder;
-  QObject asked;
-  QString question;
   bool ended = false;
   std::unique_ptr<Program> program;
 };
@@ -149,19 +136,6 @@ TEST_F(WalkTest, WhatIsWrittenIsInTheFileAndUndoTakesItBack) {
   QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
   turn();
   EXPECT_EQ(folder.read(name), before);
-  end();
-}
-
-TEST_F(WalkTest, TheSameFolderTwiceIsRefusedInWords) {
-  start();
-  add(folder.path(u"music"));
-  willAnswer(QMessageBox::Ok);
-  press("Add");
-  EXPECT_EQ(question, "Files in that folder are already on list.");
-  willAnswer(QMessageBox::Cancel);
-  press("New List");
-  EXPECT_TRUE(question.startsWith("This will clear current list."));
-  EXPECT_EQ(form1().List4.ListCount(), songs);
   end();
 }
 
