@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/number_text.h"
 #include "system/posix_files.h"
 #include "tests/support/memory_file.h"
 #include "tests/support/mp3_maker.h"
@@ -25,23 +26,26 @@ std::uint64_t tagEnd(const Bytes& bytes) {
   return ID3TagEnd(song);
 }
 
-Bytes withSize(const Bytes& header, std::size_t size) {
-  Bytes bytes = header;
+/// A file of this size that begins with a header of the usual format.
+Bytes songOf(std::size_t size) {
+  Bytes bytes = test::mpegHeader({});
   bytes.resize(size, '\0');
   return bytes;
 }
 
-TEST(Mp3Header, ReadsTheFieldsOfAnMpeg1Frame) {
+/// What the header tells of the audio.
+Text told(const clsMP3HeadReader& header) {
+  return header.MPEG + u" layer" + core::number(std::int64_t{header.Layer}) + u"," +
+         core::number(std::int64_t{header.Bitrate}) + u" kbps," +
+         core::number(std::int64_t{header.Frequency}) + u" Hz, " + header.Mode;
+}
+
+TEST(Mp3Header, ReadsTheFieldsOfAFrame) {
   const MpegFormat format{1, 3, 192, 48000, test::ChannelMode::JointStereo, true, true};
   const auto header = readHeader(test::mpegFrames(10, format));
-  EXPECT_EQ(header.MPEG, u"MPEG-1");
-  EXPECT_EQ(header.Layer, 3);
-  EXPECT_EQ(header.Bitrate, 192);
-  EXPECT_EQ(header.Frequency, 48000);
-  EXPECT_EQ(header.Mode, u"Joint Stereo");
-  EXPECT_TRUE(header.IsPrivate);
-  EXPECT_TRUE(header.IsCopyright);
-  EXPECT_TRUE(header.IsProtected);  // the bit as it stands
+  EXPECT_EQ(told(header), u"MPEG-1 layer 3, 192 kbps, 48000 Hz, Joint Stereo");
+  EXPECT_TRUE(header.IsPrivate && header.IsCopyright);
+  EXPECT_TRUE(header.IsProtected) << "the bit as it stands";
   EXPECT_FALSE(readHeader("\xFF\xFA\x90\x10").IsProtected);
   EXPECT_EQ(readHeader(test::mpegHeader({1, 1, 416, 32000})).Bitrate, 416);
   EXPECT_EQ(readHeader(test::mpegHeader({1, 2, 56, 32000})).Bitrate, 56);
@@ -60,10 +64,7 @@ TEST(Mp3Header, ReservedIndexesGiveNothing) {
 
 TEST(Mp3Header, Mpeg2ShowsNoBitRateAndNoLength) {
   const auto header = readHeader(test::mpegFrames(10, {2, 3, 64, 24000, test::ChannelMode::Mono}));
-  EXPECT_EQ(header.MPEG, u"MPEG-2");
-  EXPECT_EQ(header.Frequency, 24000);
-  EXPECT_EQ(header.Mode, u"Mono");
-  EXPECT_EQ(header.Bitrate, 0);
+  EXPECT_EQ(told(header), u"MPEG-2 layer 3, 0 kbps, 24000 Hz, Mono");
   EXPECT_EQ(header.Length, 0);
   EXPECT_EQ(readHeader("\xFF\xE3\x90\x10").MPEG, u"MPEG-2") << "2.5 counts as 2";
 
@@ -76,13 +77,13 @@ TEST(Mp3Header, Mpeg2ShowsNoBitRateAndNoLength) {
 }
 
 TEST(Mp3Header, LengthComesFromTheSizeBehindTheTag) {
-  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 16'000'000)).Length, 1000);
+  EXPECT_EQ(readHeader(songOf(16'000'000)).Length, 1000);
   // A half goes to the even neighbour: 16,000 bytes are a second.
-  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 40'000)).Length, 2);
-  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 56'000)).Length, 4);
-  EXPECT_EQ(readHeader(withSize(test::mpegHeader({}), 40'001)).Length, 3);
+  EXPECT_EQ(readHeader(songOf(40'000)).Length, 2);
+  EXPECT_EQ(readHeader(songOf(56'000)).Length, 4);
+  EXPECT_EQ(readHeader(songOf(40'001)).Length, 3);
   const Bytes tag = test::Id3v2Maker().text("TIT2", u"Song").padding(5000).bytes();
-  EXPECT_EQ(readHeader(tag + withSize(test::mpegHeader({}), 64'000)).Length, 4);
+  EXPECT_EQ(readHeader(tag + songOf(64'000)).Length, 4);
 }
 
 TEST(Mp3Header, TagEndCountsAllEightBitsOfEachSizeByte) {
