@@ -18,8 +18,7 @@ struct FrontWindowTest : testing::Test {
 
   void startWithSongs() {
     program.song(u"in/ABBA - Waterloo.mp3");
-    program.startInProcessingWindow();
-    program.addFolder(program.folder.path(u"music/in"));
+    program.startWithMusic();
   }
 };
 
@@ -27,17 +26,15 @@ TEST_F(FrontWindowTest, ProcessingWindowAndBackAgain) {
   program.settings.set(u"sourceprozor", u" 1");
   program.start();
   program.form3().showProcessingWindow.click();
-  EXPECT_TRUE(program.form1().visible());
+  EXPECT_EQ(program.shown(), "processing");
   EXPECT_TRUE(program.form1().enabled());
-  EXPECT_FALSE(program.form3().visible());
   EXPECT_EQ(program.table().aktivniprozor, 1);
   EXPECT_EQ(program.settings.get(u"sourceprozor"), u" 1");
   program.form3().onActivate();
   EXPECT_EQ(program.table().aktivniprozor, 1) << "a late notice of a window that was left";
 
   program.form1().closeRequest();
-  EXPECT_FALSE(program.form1().visible());
-  EXPECT_TRUE(program.form3().visible());
+  EXPECT_EQ(program.shown(), "base");
   EXPECT_EQ(program.table().aktivniprozor, 3);
   EXPECT_FALSE(program.app().ended()) << "closing the Processing Window only hides it";
   EXPECT_EQ(program.table().sourceprozor, 0) << "without rows there is nothing to come back to";
@@ -50,7 +47,7 @@ TEST_F(FrontWindowTest, AssortNeedsRowsAndOffersToChooseTheBase) {
   program.dialogs.expectFolder(u"Select main folder for Your Music Base", program.musicFolder());
   program.form1().assort.click();
   EXPECT_EQ(program.dialogs.lastIcon, platform::Icon::Question);
-  EXPECT_TRUE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "base, new music");
   EXPECT_EQ(program.table().sourceprozor, 1);
   EXPECT_EQ(program.settings.get(u"DirZaBazu"), program.musicFolder());
   EXPECT_EQ(program.table().dirzabazu, program.musicFolder());
@@ -62,40 +59,39 @@ TEST_F(FrontWindowTest, AssortNeedsRowsAndOffersToChooseTheBase) {
   EXPECT_EQ(program.settings.get(u"DirZaBazu"), program.musicFolder()) << "no record could carry the other";
 
   program.form3().showProcessingWindow.click();
-  EXPECT_FALSE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "processing");
   program.form1().assort.click();
-  EXPECT_TRUE(program.form3().visible()) << "with a base there is nothing to ask";
-  EXPECT_TRUE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "base, new music") << "with a base there is nothing to ask";
 }
 
 TEST_F(FrontWindowTest, NewMusicOpensAndClosesBesideTheBaseAndComesUpAgainAtTheNextStart) {
   program.settings.set(u"DirZaBazu", program.folder.mkdir(u"base"));
   startWithSongs();
   program.form1().closeRequest();
-  EXPECT_TRUE(program.windows().form2.visible())
+  EXPECT_EQ(program.shown(), "base, new music")
       << "closing the Processing Window leads on with the working list";
   EXPECT_EQ(program.form3().showNewMusic.caption(), u"     Hide New Music Window    ");
   program.restart();
-  EXPECT_TRUE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "base, new music");
 
   program.settings.set(u"plfr", u"True");
   program.windows().form2.onActivate();
   EXPECT_EQ(program.table().aktivniprozor, 2);
   program.windows().form2.closeRequest();
-  EXPECT_FALSE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "base");
   EXPECT_EQ(program.table().sourceprozor, 0);
   EXPECT_EQ(program.table().aktivniprozor, 3);
   EXPECT_TRUE(program.form3().plfr.checked());
   EXPECT_EQ(program.form3().showNewMusic.caption(), u"     Show New Music Window    ");
   program.restart();
-  EXPECT_FALSE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "base");
 
   program.form3().showNewMusic.click();
-  EXPECT_TRUE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "base, new music");
   EXPECT_FALSE(program.form3().plfr.checked());
   EXPECT_EQ(program.settings.get(u"plfr"), u"True") << "switched off for as long as it is open";
   program.form3().showNewMusic.click();
-  EXPECT_FALSE(program.windows().form2.visible());
+  EXPECT_EQ(program.shown(), "base");
 }
 
 TEST_F(FrontWindowTest, ClosingDuringAReviewAsksFirst) {
@@ -134,8 +130,7 @@ TEST_F(FrontWindowTest, CloseDuringACommandHappensBehindIt) {
     EXPECT_TRUE(program.table().Stop);
   });
   program.addFolder(program.folder.path(u"music/in"));
-  EXPECT_FALSE(program.form1().visible());
-  EXPECT_TRUE(program.form3().visible());
+  EXPECT_EQ(program.shown(), "base");
   EXPECT_FALSE(program.windows().dialog1.visible());
 }
 

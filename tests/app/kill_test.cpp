@@ -49,8 +49,7 @@ class Victim : public test::RepairHouse {
       program.song(u"in/arvola - song " + core::fromBytes(digits) + u".mp3",
                    second + audio_.back() + "." + first);
     }
-    program.startInProcessingWindow();
-    program.addFolder(program.folder.path(u"music/in"));
+    program.startWithMusic();
     form1().tags.writeID3v1.setChecked(true);
     form1().tags.writeID3v2.setChecked(true);
     namesBefore = songNames();

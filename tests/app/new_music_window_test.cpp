@@ -18,8 +18,7 @@ struct NewMusicWindowTest : testing::Test {
     program.song(u"in/Kora - Rain.mp3");
     program.song(u"in/Lumo - Dusk.mp3");
     program.settings.set(u"DirZaBazu", program.folder.mkdir(u"base"));
-    program.startInProcessingWindow();
-    program.addFolder(program.folder.path(u"music/in"));
+    program.startWithMusic();
     program.form1().assort.click();
     form2().onActivate();
     form2().List1.select({0}, 0);

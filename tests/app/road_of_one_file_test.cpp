@@ -96,8 +96,7 @@ TEST_F(RoadOfOneFile, FromAnEmptyProgramFolderIntoTheBase) {
 TEST_F(RoadOfOneFile, TheLastMoveClosesTheNewMusicAndCanStillBeTakenBack) {
   song(u"kora - rain", {.genre = u"Pop"});
   program.settings.set(u"DirZaBazu", program.folder.mkdir(u"base"));
-  program.startInProcessingWindow();
-  program.addFolder(program.folder.path(u"music/in"));
+  program.startWithMusic();
   form1().assort.click();
   goTo(form2());
   click(form2().List1, {u"-<< Every Autor >>-"});

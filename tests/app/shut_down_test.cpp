@@ -14,8 +14,7 @@ struct ShutDownTest : testing::Test {
     program.song(u"in/ABBA - Waterloo.mp3");
     program.song(u"in/Nobody.mp3");
     program.song(u"in/cover.jpg");
-    program.startInProcessingWindow();
-    program.addFolder(program.folder.path(u"music/in"));
+    program.startWithMusic();
     ASSERT_EQ(program.table().brojfajlova(), 2);
   }
 };

@@ -13,8 +13,7 @@ struct WiringTest : testing::Test {
     for (const TextView name : {u"in/ABBA - Waterloo.mp3", u"in/Beatles - Help.mp3"})
       program.song(name, test::mpegFrames() + test::id3v1Tag({.title = u"Old", .artist = u"Old Artist"}));
     program.song(u"in/notes.txt");
-    program.startInProcessingWindow();
-    program.addFolder(program.folder.path(u"music/in"));
+    program.startWithMusic();
     ASSERT_EQ(program.table().brojfajlova(), 2);
   }
 };

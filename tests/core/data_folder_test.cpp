@@ -18,9 +18,17 @@ class DataFolderTest : public testing::Test {
   void write(TextView name, BytesView content) { folder.write(Text(u"Data/").append(name), content); }
   bool exists(TextView name) { return folder.exists(Text(u"Data/").append(name)); }
 
-  void load(TrackTable& loaded) {
-    data.readNames(loaded);
-    data.readTags(loaded);
+  /// A table as the next start of the program has it.
+  struct Loaded : TrackTable {
+    explicit Loaded(DataFolder& from) {
+      from.readNames(*this);
+      from.readTags(*this);
+    }
+  };
+  void save(const TrackTable& saved) {
+    data.SaveID3nizove(saved);
+    data.savenizove(saved);
+    data.writeList(u"bazaniz.txt", saved.bazaniz);
   }
 
   /// Three rows of the working list and a tail of one, with some of the columns filled.
@@ -47,8 +55,7 @@ class DataFolderTest : public testing::Test {
 };
 
 TEST_F(DataFolderTest, IsMadeAtTheFirstWriteAndNoEarlier) {
-  TrackTable loaded;
-  load(loaded);
+  Loaded{data};
   data.remove(u"nizdes.txt");
   data.writeList(u"autori.txt", {});
   EXPECT_FALSE(folder.exists(u"Data"));
@@ -58,14 +65,11 @@ TEST_F(DataFolderTest, IsMadeAtTheFirstWriteAndNoEarlier) {
 
 TEST_F(DataFolderTest, ASavedTableLoadsAsItWas) {
   fill();
-  data.SaveID3nizove(table);
-  data.savenizove(table);
-  data.writeList(u"bazaniz.txt", table.bazaniz);
+  save(table);
   EXPECT_EQ(read(u"procitan.txt"), "\r\n#TRUE#\r\n\r\n\r\n");
   EXPECT_EQ(settings.get(u"ghb"), u" 3");
 
-  TrackTable loaded;
-  load(loaded);
+  const Loaded loaded(data);
   EXPECT_EQ(loaded.rows(), 4);
   EXPECT_EQ(loaded.brojfajlova(), 3);
   EXPECT_EQ(loaded.brojbaza, 1);
@@ -109,19 +113,14 @@ TEST_F(DataFolderTest, ColumnsHaveStorageForTheRowsOfTheirFiles) {
 
 TEST_F(DataFolderTest, ACountThatTheRowsCannotBearNeverTakesInTheTail) {
   fill();
-  data.savenizove(table);
-  data.writeList(u"bazaniz.txt", table.bazaniz);
+  save(table);
   for (const auto& [stored, taken] : {std::pair{u"9000", 3}, {u"-5", 0}, {u"many", 0}, {u"1E99", 3}}) {
     settings.set(u"ghb", stored);
-    TrackTable loaded;
-    load(loaded);
-    EXPECT_EQ(loaded.brojfajlova(), taken) << toBytes(stored);
+    EXPECT_EQ(Loaded(data).brojfajlova(), taken) << toBytes(stored);
   }
   write(u"nizdes.txt", "\"/new/a - b.mp3\"\r\n\"/new/c.mp3\"\r\n\"/new");
   settings.set(u"ghb", u" 3");
-  TrackTable loaded;
-  load(loaded);
-  EXPECT_EQ(loaded.brojfajlova(), 2) << "a list that lost its end is the user's own to its last row";
+  EXPECT_EQ(Loaded(data).brojfajlova(), 2) << "a list that lost its end is the user's own to its last row";
 }
 
 TEST_F(DataFolderTest, NamesInItHaveNoCase) {
@@ -183,29 +182,24 @@ TEST_F(DataFolderTest, ARowWithoutAnElementInEachTagColumnIsUnread) {
 // The column files are cut, at every length, one at a time; then the table is loaded, saved and loaded again.
 TEST_F(DataFolderTest, CutAnywhereTheWholeRowsAreLeftAndASaveKeepsThem) {
   fill();
-  data.SaveID3nizove(table);
-  data.savenizove(table);
+  save(table);
   for (const Column column : {&Track::nizdes, &Track::crtapos, &Track::procitan, &Track::albumid3v2}) {
     const TextView file = DataFolder::fileOf(column);
     const Bytes whole = read(file);
     for (std::size_t cut = 0; cut < whole.size(); ++cut) {
       write(file, BytesView(whole).substr(0, cut));
       const auto wholeRows = static_cast<int>(std::ranges::count(whole.substr(0, cut), '\n'));
-      TrackTable loaded;
-      load(loaded);
+      const Loaded loaded(data);
       for (int row = 1; row <= std::min(wholeRows, loaded.rows()); ++row)
         ASSERT_EQ(loaded.element(column, row), table.element(column, row)) << "cut at " << cut;
 
-      data.savenizove(loaded);
-      data.SaveID3nizove(loaded);
-      TrackTable again;
-      load(again);
+      save(loaded);
+      const Loaded again(data);
       ASSERT_EQ(again.rows(), loaded.rows());
       ASSERT_EQ(again.brojfajlova(), loaded.brojfajlova());
       for (int row = 1; row <= again.rows(); ++row)
         ASSERT_EQ(again.element(column, row), loaded.element(column, row)) << "cut at " << cut;
-      data.savenizove(table);
-      data.SaveID3nizove(table);
+      save(table);
     }
     write(file, whole);
   }
@@ -213,30 +207,24 @@ TEST_F(DataFolderTest, CutAnywhereTheWholeRowsAreLeftAndASaveKeepsThem) {
 
 TEST_F(DataFolderTest, AfterAChangeThatWasCutShortNoRowIsTakenForRead) {
   fill();
-  data.SaveID3nizove(table);
-  data.savenizove(table);
+  save(table);
   data.beginChange();
   table.removeRow(1);
   data.savenizove(table);
-  TrackTable loaded;
-  load(loaded);
+  const Loaded loaded(data);
   for (int row = 1; row <= loaded.rows(); ++row)
     EXPECT_FALSE(loaded.track(row).procitan.isTrue()) << "its tags are those of the row above";
   data.SaveID3nizove(table);
-  load(loaded);
-  EXPECT_TRUE(loaded.track(1).procitan.isTrue());
+  EXPECT_TRUE(Loaded(data).track(1).procitan.isTrue());
 }
 
 TEST_F(DataFolderTest, ACountOfAChangeThatWasCutShortIsNotThatOfTheRows) {
   fill();
-  data.savenizove(table);
-  data.writeList(u"bazaniz.txt", table.bazaniz);
+  save(table);
   data.beginChange();
   for (const int ofOtherRows : {1, 4}) {
     settings.setNumber(u"ghb", ofOtherRows);
-    TrackTable loaded;
-    load(loaded);
-    EXPECT_EQ(loaded.brojfajlova(), 3);
+    EXPECT_EQ(Loaded(data).brojfajlova(), 3);
   }
 }
 
@@ -247,8 +235,7 @@ TEST_F(DataFolderTest, AnyBytesLoad) {
     write(DataFolder::fileOf(column), binary);
   write(u"bazepesama.txt", Bytes(1 << 20, 'x'));
   write(u"autori.txt", Bytes(1 << 12, '\0'));
-  TrackTable loaded;
-  load(loaded);
+  const Loaded loaded(data);
   EXPECT_GT(loaded.rows(), 0);
   EXPECT_EQ(loaded.bazepesama.size(), 1U);
 }

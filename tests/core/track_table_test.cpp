@@ -12,22 +12,6 @@ void addRows(TrackTable& table, int rows) {
     table.appendPath(u"/" + Text(1, static_cast<char16_t>(u'a' + row - 1)));
 }
 
-TEST(Element, HoldsTextBooleanOrNothing) {
-  Element element;
-  EXPECT_TRUE(element.isNothing());
-  EXPECT_EQ(element.text(), u"");
-  element = true;
-  EXPECT_TRUE(element.isBoolean() && element.isTrue() && !element.isText());
-  element = Element(u"");
-  EXPECT_TRUE(element.isText()) << "an empty text is a text";
-  EXPECT_NE(element, Element());
-  EXPECT_NE(Element(false), Element());
-  const Element copy = element = u"text";
-  element = false;
-  EXPECT_EQ(copy, Element(u"text"));
-  EXPECT_FALSE(element.isTrue());
-}
-
 TEST(TrackTable, AnErasedColumnHasNoStorageAndOthersKeepTheirs) {
   TrackTable table;
   addRows(table, 2);

@@ -283,17 +283,14 @@ TEST_F(ListMakerTest, AddRunsArtistListWhenThatIsTheReview) {
 
 TEST_F(ListMakerTest, NothingStartsWhileACommandRuns) {
   song(u"music/a.mp3");
-  int clicks = 0;
   for (int pump = 0; pump < 2; ++pump)
     desktop.then([&] {
-      ++clicks;
       maker.add();
       maker.addFolder();
       maker.newList();
       views.showOtherFiles();
     });
   add(u"music");
-  EXPECT_EQ(clicks, 2);
   EXPECT_EQ(table.brojbaza, 1);
 }
 

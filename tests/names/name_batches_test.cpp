@@ -3,11 +3,9 @@
 namespace velmora {
 namespace {
 
-using Names = std::vector<std::string>;
+using test::Names;
 
-struct NameBatches : test::RepairBench {
-  void undo() { click(tools().undoLastOperation); }
-};
+struct NameBatches : test::RepairBench {};
 
 TEST_F(NameBatches, FixSyntaxNormalisesEachSelectedName) {
   add({{u"the_arvolas-harbour (live )"}, {u"KO-RA%20- song"}, {u"left alone_"}});
@@ -38,8 +36,7 @@ TEST_F(NameBatches, RemoveStringIsExactInCaseAndFixesWhatIsLeft) {
   click(tools().removeString);
   EXPECT_EQ(names(), (Names{"Abb - Song", "Arvol - A"}));
   program.dialogs.expectInput(u"Input string to remove from selected files:", u"Remove String", std::nullopt);
-  selectAll();
-  click(tools().removeString);
+  clickForAll(tools().removeString);
   EXPECT_EQ(names(), (Names{"Abb - Song", "Arvol - A"}));
   undo();
   undo();
@@ -48,11 +45,9 @@ TEST_F(NameBatches, RemoveStringIsExactInCaseAndFixesWhatIsLeft) {
 
 TEST_F(NameBatches, NumbersOfTracksAndYearsAreRemoved) {
   add({{u"05 - Song"}, {u"3 Title 101"}, {u"Song 1999"}, {u"Track 07 Tune"}});
-  selectAll();
-  click(tools().removeTrackNumber);
+  clickForAll(tools().removeTrackNumber);
   EXPECT_EQ(names(), (Names{"3 Title", "Song", "Song 1999", "Tune"}));
-  selectAll();
-  click(tools().removeYearNumber);
+  clickForAll(tools().removeYearNumber);
   EXPECT_EQ(names(), (Names{"3 Title", "Song", "Song ", "Tune"})) << "four digits";
 }
 
@@ -65,8 +60,7 @@ TEST_F(NameBatches, RemovedNumbersGoIntoTheTagsWhereChosen) {
   program.windows().dialog2.fix10.setChecked(true);
   form1().tags.writeID3v1.setChecked(true);
   form1().tags.writeID3v2.setChecked(true);
-  selectAll();
-  click(tools().removeTrackNumber);
+  clickForAll(tools().removeTrackNumber);
   EXPECT_EQ(names(), (Names{"Arvola - Bare", "Arvola - Harbour", "Ko - Ra - Thunder"}));
   EXPECT_EQ(first(u"Arvola - Harbour"), "Arvola|Harbour|First Album||7");
   EXPECT_EQ(second(u"Arvola - Harbour"), "Arvola|Harbour|An album whose name is longer than thirty||07");
@@ -80,11 +74,9 @@ TEST_F(NameBatches, RemovedNumbersGoIntoTheTagsWhereChosen) {
 TEST_F(NameBatches, ReplaceArtistTitleGivesEachTextTheModeOfItsPlace) {
   add({{u"arvola - harbour lights"}, {u"no dash"}});
   program.windows().dialog2.fixo1.setChosen(true);
-  selectAll();
-  click(tools().replaceArtistTitle);
+  clickForAll(tools().replaceArtistTitle);
   EXPECT_EQ(names(), (Names{"HARBOUR LIGHTS - Arvola", "NO DASH -"}));
-  selectAll();
-  click(tools().fixSyntax);
+  clickForAll(tools().fixSyntax);
   EXPECT_EQ(names(), (Names{"HARBOUR LIGHTS - Arvola", "NO DASH"})) << "the dash with nothing behind it goes";
 }
 
@@ -107,8 +99,7 @@ TEST_F(NameBatches, NamesFromTagsTakeTheTagInView) {
 
 TEST_F(NameBatches, RenameOfSeveralSetsTheBlanksAroundTheirDashes) {
   add({{u"A  -  B"}, {u"C-D"}, {u"no dash"}});
-  selectAll();
-  click(tools().rename);
+  clickForAll(tools().rename);
   EXPECT_EQ(names(), (Names{"A - B", "C - D", "no dash"}));
 }
 

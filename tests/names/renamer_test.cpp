@@ -4,7 +4,7 @@
 namespace velmora {
 namespace {
 
-using Names = std::vector<std::string>;
+using test::Names;
 
 struct RenamerTest : test::RepairBench {
   /// Types a name for one file and presses Rename.
@@ -79,7 +79,7 @@ TEST_F(RenamerTest, TagsThatEqualTheOldNameFollowIt) {
             (Names{"st1", "bi1", "ren", "id3", "id3", "st1", "bi1", "ren", "id3", "st1", "bi1", "ren"}));
   EXPECT_FALSE(form1().tags.writeID3v1.checked()) << "the user's own marks are as they were";
 
-  for (int step = 0; step < 3; ++step) click(tools().undoLastOperation);
+  for (int step = 0; step < 3; ++step) undo();
   EXPECT_EQ(names(), (Names{"Arvola - Song", "Bare - Name", "Kora - Rain"}));
   EXPECT_EQ(first(u"Arvola - Song"), "Arvola|Song|A||3");
   EXPECT_EQ(second(u"Arvola - Song"), "Arvola|Song|Another, longer than thirty characters||");
@@ -107,7 +107,7 @@ TEST_F(RenamerTest, AFileThatPlaysPlaysOnFromTheSameSecond) {
   EXPECT_EQ(program.media.file(), pathOf(u"Arvola - Harbour"));
   EXPECT_EQ(program.media.state(), platform::PlayState::Playing);
   EXPECT_EQ(program.media.position(), 42);
-  click(tools().undoLastOperation);
+  undo();
   EXPECT_EQ(program.media.file(), pathOf(u"Arvola - Song"));
   EXPECT_EQ(program.media.position(), 42);
   const std::size_t opened = program.media.opened.size();

@@ -40,21 +40,18 @@ TEST_F(SyntaxFixerTest, ModesFollowTheOptions) {
   EXPECT_EQ(fixer_.Filpesme(), Capitals::Keep);
 }
 
-TEST_F(SyntaxFixerTest, EachPartGetsItsOwnMode) {
-  EXPECT_EQ(fixed(u"the ARVOLAS - harbour LIGHTS"), "The Arvolas - Harbour lights");
-  EXPECT_EQ(fixed(u"  harbour LIGHTS "), "Harbour lights") << "a name without a dash is all title";
-}
-
-TEST_F(SyntaxFixerTest, TheFirstDashDividesWhateverTheRowSays) {
-  EXPECT_EQ(fixed(u"KO-RA - Song"), "Ko - Ra - song");
-  EXPECT_EQ(fixed(u"a-b"), "A - B");
-}
-
-TEST_F(SyntaxFixerTest, APartThatComesOutEmptyTakesTheDashWithIt) {
-  EXPECT_EQ(fixed(u" - Song"), "Song");
-  EXPECT_EQ(fixed(u"-Song"), "Song");
-  EXPECT_EQ(fixed(u"Title -"), "Title");
-  EXPECT_EQ(fixed(u"-"), " - ");
+TEST_F(SyntaxFixerTest, TheFirstDashDividesPartsAndEachGetsItsOwnMode) {
+  const std::pair<TextView, std::string> cases[] = {
+      {u"the ARVOLAS - harbour LIGHTS", "The Arvolas - Harbour lights"},
+      {u"  harbour LIGHTS ", "Harbour lights"},  // all title
+      {u"KO-RA - Song", "Ko - Ra - song"},
+      {u"a-b", "A - B"},
+      // An empty part takes the dash with it.
+      {u" - Song", "Song"},
+      {u"-Song", "Song"},
+      {u"Title -", "Title"},
+      {u"-", " - "}};
+  for (const auto& [name, expected] : cases) EXPECT_EQ(fixed(name), expected);
 }
 
 TEST_F(SyntaxFixerTest, TheOptionsReachTheRules) {

@@ -6,7 +6,7 @@
 namespace velmora {
 namespace {
 
-using Names = std::vector<std::string>;
+using test::Names;
 
 using test::SongTags;
 
@@ -22,8 +22,7 @@ TEST_F(TagBatches, NamesGoIntoTheTagsThatAreMarked) {
        {u"Arvola - Two", {.title = u"x"}},
        {u"Arvola - Three"}});
   mark(true, false);
-  selectAll();
-  click(tools().fnToId3);
+  clickForAll(tools().fnToId3);
   EXPECT_EQ(first(u"Arvola - One"), "Arvola|One|A1||0");
   EXPECT_EQ(second(u"Arvola - One"), "|y|A2||");
   EXPECT_EQ(first(u"Arvola - Two"), "Arvola|Two|||0");
@@ -35,7 +34,7 @@ TEST_F(TagBatches, NamesGoIntoTheTagsThatAreMarked) {
   EXPECT_FALSE(form1().fieldChecks.album.enabled()) << "there is nothing to share with other files";
   click(tools().fnToId3);
   EXPECT_EQ(second(u"Arvola - One"), "Arvola|One|A2||0") << "each tag keeps its own other values";
-  for (int step = 0; step < 2; ++step) click(tools().undoLastOperation);
+  for (int step = 0; step < 2; ++step) undo();
   EXPECT_EQ(first(u"Arvola - One"), "|x|A1||0");
   EXPECT_EQ(second(u"Arvola - One"), "|y|A2||");
 }

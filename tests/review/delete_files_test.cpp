@@ -8,7 +8,7 @@
 namespace velmora {
 namespace {
 
-using Names = std::vector<std::string>;
+using test::Names;
 
 struct DeleteFilesTest : test::RepairBench {
   void pressDelete(bool shift = false) { form1().List4.onKey({ui::Key::Delete, shift}); }
@@ -39,7 +39,7 @@ TEST_F(DeleteFilesTest, SelectedFilesGoToTheTrashAndComeBack) {
 
   program.restart();
   EXPECT_EQ(listed(), (Names{"b - two"}));
-  click(tools().undoLastOperation);
+  undo();
   EXPECT_EQ(names(), (Names{"a - one", "b - two", "c - three"}));
   EXPECT_EQ(listed(), names());
   EXPECT_EQ(trashed(), 0U);
@@ -109,7 +109,7 @@ TEST_F(DeleteFilesTest, WhatIsNoLongerInTheTrashIsToldAndTheRestComesBack) {
   std::vector<Text> lost = {pathOf(u"a"), pathOf(u"b")};
   program.dialogs.expectTitle(u"Undo", platform::Answer::Ok);
   program.dialogs.expectTitle(u"Undo", platform::Answer::Ok);
-  click(tools().undoLastOperation);
+  undo();
   std::ranges::sort(program.dialogs.shown);
   EXPECT_EQ(core::toBytes(program.dialogs.shown[0]),
             "Canot Undelete. File " + core::toBytes(lost[0]) + " is not in recycle bin.");
@@ -123,7 +123,7 @@ TEST_F(DeleteFilesTest, AFileWhoseNameIsTakenComesBackBesideTheOther) {
   selectAll();
   pressDelete(true);
   program.folder.write(u"music/in/a.mp3", "another");
-  click(tools().undoLastOperation);
+  undo();
   EXPECT_EQ(names(), (Names{"a", "a "}));
   EXPECT_EQ(listed(), (Names{"a "})) << "the row speaks of the file that came back";
   EXPECT_EQ(program.folder.read(u"music/in/a.mp3"), "another");

@@ -9,8 +9,8 @@
 namespace velmora {
 namespace {
 
-using Names = std::vector<std::string>;
 using review::lengthPrefixed;
+using test::Names;
 
 /// The undo of the whole program, fed with journals written by hand.
 struct UndoTest : test::RepairBench {
@@ -27,7 +27,6 @@ struct UndoTest : test::RepairBench {
     return line(u"ren", pathOf(to), payload);
   }
   Bytes journal() const { return program.folder.read(u"program/UndoData.txt"); }
-  void undo() { click(tools().undoLastOperation); }
 
   const Bytes st1 = "\"st1\"\r\n";
 };
@@ -36,8 +35,7 @@ TEST_F(UndoTest, ButtonsFollowTheTopOfTheJournal) {
   add({{u"a_1"}});
   EXPECT_FALSE(tools().undoLastOperation.enabled());
   EXPECT_FALSE(tools().undo.enabled());
-  selectAll();
-  click(tools().fixSyntax);
+  clickForAll(tools().fixSyntax);
   EXPECT_TRUE(tools().undoLastOperation.enabled());
   program.restart();
   EXPECT_TRUE(tools().undo.enabled());
@@ -115,8 +113,7 @@ TEST_F(UndoTest, ATagOfAnotherProgramStaysWhenTheOneThatWasMadeGoes) {
 TEST_F(UndoTest, AGenreThatCannotComeBackIsNotShownAsIfItHad) {
   const Bytes blues = test::mpegFrames() + test::id3v1Tag({.title = u"t", .artist = u"a"}, 0);
   program.song(u"in/a.mp3", blues);
-  program.startInProcessingWindow();
-  program.addFolder(program.folder.path(u"music/in"));
+  program.startWithMusic();
   select({u"a"});
   EXPECT_EQ(form1().tags.genre.text(), u"Blues");
   form1().tags.writeID3v1.setChecked(true);
@@ -229,8 +226,7 @@ TEST_F(UndoTest, ATagThatTheOperationMadeIsTakenOffOnceAndNeverCutsIntoTheMusic)
   add({{u"a"}});
   const Bytes music = program.files.readAll(pathOf(u"a"));
   form1().tags.writeID3v1.setChecked(true);
-  selectAll();
-  click(tools().fnToId3);
+  clickForAll(tools().fnToId3);
   const Bytes record = journal();
   undo();
   EXPECT_EQ(first(u"a"), "none");
@@ -259,18 +255,15 @@ TEST_F(UndoTest, UndoNameTakesBackTheEditInTheBoxFirst) {
 
 TEST_F(UndoTest, UndoNameGoesBackToTheNameBeforeTheLastRenameAndCanBeUndone) {
   add({{u"a_1"}, {u"b_2"}, {u"plain"}});
-  selectAll();
-  click(tools().fixSyntax);
-  selectAll();
-  click(tools().undoName);
+  clickForAll(tools().fixSyntax);
+  clickForAll(tools().undoName);
   EXPECT_EQ(names(), (Names{"a_1", "b_2", "plain"}));
   EXPECT_EQ(kinds(), (Names{"st1", "bi1", "ren", "ren", "ren", "st1", "bi1", "ren", "ren", "ren"}));
   undo();
   EXPECT_EQ(names(), (Names{"A 1", "B 2", "Plain"}));
   undo();
   EXPECT_EQ(names(), (Names{"a_1", "b_2", "plain"}));
-  selectAll();
-  click(tools().undoName);
+  clickForAll(tools().undoName);
   EXPECT_EQ(kinds(), Names{}) << "nothing was renamed, so there is nothing to take back";
 }
 

@@ -39,6 +39,19 @@ void HeadlessVelmora::startInProcessingWindow() {
   if (!form1().visible()) form3().showProcessingWindow.click();
 }
 
+void HeadlessVelmora::startWithMusic() {
+  startInProcessingWindow();
+  addFolder(folder.path(u"music/in"));
+}
+
+std::string HeadlessVelmora::shown() {
+  std::string names;
+  if (form1().visible()) names += "processing";
+  if (form3().visible()) names += names.empty() ? "base" : ", base";
+  if (windows().form2.visible()) names += names.empty() ? "new music" : ", new music";
+  return names;
+}
+
 void HeadlessVelmora::addFolder(const Text& path) {
   dialogs.expectFolder(u"Select folder where are music for add on list.", path);
   form1().addFolder.click();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "app/velmora.h"
 #include "core/settings.h"
@@ -46,9 +47,14 @@ class HeadlessVelmora {
   void forget() { build(); }
   /// Starts, and brings up the Processing Window when another one is in front.
   void startInProcessingWindow();
+  /// The same, and adds the music folder's folder "in" to the list.
+  void startWithMusic();
 
   /// The user picks `path` for Add Folder.
   void addFolder(const Text& path);
+
+  /// Which of the main windows are in sight: "processing", "base", "base, new music".
+  std::string shown();
 
   app::Velmora& app() { return *app_; }
   ui::Windows& windows() { return app_->windows(); }

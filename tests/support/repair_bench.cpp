@@ -33,8 +33,7 @@ void RepairHouse::add(const std::vector<Song>& songs) {
     if (given(song.first)) bytes += id3v1Tag(song.first);
     program.song(u"in/" + song.name + u".mp3", bytes);
   }
-  program.startInProcessingWindow();
-  program.addFolder(program.folder.path(u"music/in"));
+  program.startWithMusic();
   ASSERT_EQ(program.table().brojfajlova(), static_cast<int>(songs.size()));
 }
 
@@ -58,8 +57,13 @@ void RepairHouse::click(ui::Button& button) {
   EXPECT_FALSE(program.windows().dialog1.visible());
 }
 
-std::vector<std::string> RepairHouse::names() const {
-  std::vector<std::string> names;
+void RepairHouse::clickForAll(ui::Button& button) {
+  selectAll();
+  click(button);
+}
+
+Names RepairHouse::names() const {
+  Names names;
   for (const auto& entry :
        const_cast<system::PosixFiles&>(program.files).list(program.folder.path(u"music/in")).entries)
     names.push_back(core::toBytes(core::dropRight(entry.name, 4)));
@@ -67,8 +71,8 @@ std::vector<std::string> RepairHouse::names() const {
   return names;
 }
 
-std::vector<std::string> RepairHouse::listed() {
-  std::vector<std::string> names;
+Names RepairHouse::listed() {
+  Names names;
   for (int row = 1; row <= program.table().brojfajlova(); ++row) {
     EXPECT_EQ(form1().List4.List(row - 1), program.table().path(row));
     names.push_back(core::toBytes(core::paths::bareName(program.table().path(row))));
@@ -98,10 +102,10 @@ std::string RepairHouse::second(TextView name) {
   return joined({tag.Artist(), tag.Title(), tag.Album(), tag.Year(), tag.Track()});
 }
 
-std::vector<std::string> RepairHouse::kinds() const {
+Names RepairHouse::kinds() const {
   auto& files = const_cast<system::PosixFiles&>(program.files);
   const review::UndoJournal journal(files, program.settings, program.folder.path(u"program/UndoData.txt"));
-  std::vector<std::string> kinds;
+  Names kinds;
   for (const Text& record : journal.readRecords()) kinds.push_back(core::toBytes(record.substr(0, 3)));
   return kinds;
 }

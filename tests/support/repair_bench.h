@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/support/headless_velmora.h"
+#include "tests/support/list_reader.h"
 #include "tests/support/mp3_maker.h"
 
 namespace velmora::test {
@@ -28,11 +29,14 @@ class RepairHouse {
   void selectAll();
   /// Clicks a button that must be enabled.
   void click(ui::Button& button);
+  /// The same with all files selected.
+  void clickForAll(ui::Button& button);
+  void undo() { click(tools().undoLastOperation); }
 
   /// Names of the files in the folder, sorted.
-  std::vector<std::string> names() const;
+  Names names() const;
   /// The same as the table tells it.
-  std::vector<std::string> listed();
+  Names listed();
   Text pathOf(TextView name) const { return program.folder.path(u"music/in/" + Text(name) + u".mp3"); }
   /// Row of a file; fails the test when it is not in the list.
   int rowOf(TextView name);
@@ -40,7 +44,7 @@ class RepairHouse {
   std::string first(TextView name);
   std::string second(TextView name);
   /// Kinds of the journal's records, oldest first.
-  std::vector<std::string> kinds() const;
+  Names kinds() const;
 
   ui::Form1& form1() { return program.form1(); }
   ui::RepairTools& tools() { return form1().repair; }

@@ -41,25 +41,27 @@ class ID3v2Write : public TagFixture {
     return folder.read(u"song.mp3");
   }
 
+  /// The song with this title, written over what it was.
+  Bytes titled(const Bytes& old, const Text& title = u"Song") {
+    auto tag = tagOf(old);
+    tag.setTitle(title);
+    return updated(tag);
+  }
+
   const Bytes audio = test::mpegFrames(8);
   const Bytes songFrame = frame("TIT2", "Song");
   const Bytes end = Bytes(4, '\0');
 };
 
 TEST_F(ID3v2Write, AFirstTagTakes2048Bytes) {
-  auto tag = tagOf(audio);
-  tag.setTitle(u"Song");
-  const Bytes now = updated(tag);
-  EXPECT_EQ(now.size(), audio.size() + 2048);
+  const Bytes now = titled(audio);
   EXPECT_EQ(now, grown(audio, 2048, head(2048) + songFrame + end));
   EXPECT_EQ(now.substr(6, 4), Bytes("\0\0\x08\0", 4));
 }
 
 TEST_F(ID3v2Write, TheSizeIsAMultipleOf2048AboveTheTotal) {
   for (const auto& [total, size] : {std::pair{2047, 2048}, {2048, 4096}, {2049, 4096}, {4096, 6144}}) {
-    auto tag = tagOf(audio);
-    tag.setTitle(Text(static_cast<std::size_t>(total) - 25, u'x'));
-    const Bytes now = updated(tag);
+    const Bytes now = titled(audio, Text(static_cast<std::size_t>(total) - 25, u'x'));
     EXPECT_EQ(now.size(), audio.size() + static_cast<std::size_t>(size));
     EXPECT_EQ(now.substr(6, 4), plain32(static_cast<std::uint32_t>(size)));
     EXPECT_EQ(now.substr(static_cast<std::size_t>(size)), audio);
@@ -86,45 +88,34 @@ TEST_F(ID3v2Write, ASmallerTagGoesOverTheOldOneInPlace) {
 TEST_F(ID3v2Write, InPlaceItStartsAtTheMarkerWhereverThatLies) {
   const Bytes junk(700, '\x11');
   const Bytes old = junk + Id3v2Maker().padding(3000).plainBytes() + audio;
-  auto tag = tagOf(old);
-  tag.setTitle(u"Song");
   const Bytes written = head(3000) + songFrame + end;
-  EXPECT_EQ(updated(tag), Bytes(old).replace(700, written.size(), written));
+  EXPECT_EQ(titled(old), Bytes(old).replace(700, written.size(), written));
 }
 
 TEST_F(ID3v2Write, AsLargeAsTheOldSizeIsGrowth) {
   // The old size is 29, and so is the new total: the file grows by 2048 - 29, and the tag lies over what
   // follows, the first bytes of the old tag among it.
   const Bytes old = Id3v2Maker().padding(29).plainBytes() + audio;
-  auto tag = tagOf(old);
-  tag.setTitle(u"Song");
-  const Bytes now = updated(tag);
-  EXPECT_EQ(now, grown(old, 2048 - 29, head(2048) + songFrame + end));
+  EXPECT_EQ(titled(old), grown(old, 2048 - 29, head(2048) + songFrame + end));
 
   // One byte more of room, and it goes in place.
   const Bytes roomy = Id3v2Maker().padding(30).plainBytes() + audio;
-  auto second = tagOf(roomy);
-  second.setTitle(u"Song");
-  EXPECT_EQ(updated(second).size(), roomy.size());
+  EXPECT_EQ(titled(roomy).size(), roomy.size());
 }
 
 TEST_F(ID3v2Write, GrowthBeyondTheSlackWritesOverThePartlyShiftedOldTag) {
   const Bytes old = Id3v2Maker().text("TALB", Text(2000, u'a')).padding(20).plainBytes() + audio;
-  auto tag = tagOf(old);
-  tag.setTitle(Text(1000, u't'));
   const std::size_t oldSize = 10 + 2001 + 20;
   const Bytes written =
       head(4096) + frame("TALB", Bytes(1, '\0') + Bytes(2000, 'a')) + frame("TIT2", Bytes(1000, 't')) + end;
-  EXPECT_EQ(updated(tag), grown(old, 4096 - oldSize, written));
+  EXPECT_EQ(titled(old, Text(1000, u't')), grown(old, 4096 - oldSize, written));
 }
 
 TEST_F(ID3v2Write, OtherVersionsAreWrittenAsVersion3) {
   for (const int version : {2, 4}) {
     const Bytes old =
         Id3v2Maker(version).values({.title = u"Song", .artist = u"Arvola"}).padding(900).bytes();
-    auto tag = tagOf(old + audio);
-    tag.setTitle(u"Tune");
-    const Bytes now = updated(tag);
+    const Bytes now = titled(old + audio, u"Tune");
     EXPECT_EQ(now[3], '\x03');
     EXPECT_EQ(now.substr(10, 27), frame("TPE1", "Arvola") + frame("TIT2", "Tune").substr(0, 10));
     EXPECT_EQ(now.substr(now.size() - audio.size()), audio);
