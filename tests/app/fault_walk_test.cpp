@@ -53,7 +53,7 @@ class Walk : public test::RepairHouse {
          {u"kora - two", {.title = u"two", .artist = u"kora"}},
          {u"3 bare"}});
     before_ = names();
-    for (const std::string& name : before_) tagsBefore_.push_back(tagsOf(name));
+    for (const std::string& name : before_) tagsBefore_.push_back(tagsOf(core::fromBytes(name)));
     music_ = test::mpegFrames();
     music_.resize(music_.size() - 4);
     form1().tags.writeID3v1.setChecked(true);
@@ -66,14 +66,9 @@ class Walk : public test::RepairHouse {
     form1().List4.select({0}, 0);
     form1().List4.onKey({ui::Key::Delete, true});
   }
-  void undoAll() {
-    for (int i = 0; i < 20 && tools().undoLastOperation.enabled(); ++i) tools().undoLastOperation.click();
-  }
   /// What holds after any fault, whatever the user answers.
   void expectNothingLost() {
-    EXPECT_TRUE(form1().enabled());
-    EXPECT_FALSE(program.windows().dialog1.visible());
-    EXPECT_EQ(program.table().puniliste, 0);
+    expectAtRest();
     int songs = 0;
     for (const TextView folder : {u"music/in", u"trash/files"}) {
       const Text path = program.folder.path(folder);
@@ -84,15 +79,12 @@ class Walk : public test::RepairHouse {
     EXPECT_EQ(songs, 3) << "each song is there, once, with its music whole";
   }
   void expectTagsBack() {
-    for (std::size_t i = 0; i < before_.size(); ++i) EXPECT_EQ(tagsOf(before_[i]), tagsBefore_[i]);
+    for (std::size_t i = 0; i < before_.size(); ++i)
+      EXPECT_EQ(tagsOf(core::fromBytes(before_[i])), tagsBefore_[i]);
   }
   const std::vector<std::string>& namesBefore() const { return before_; }
 
  private:
-  std::string tagsOf(const std::string& name) {
-    return first(core::fromBytes(name)) + " / " + second(core::fromBytes(name));
-  }
-
   std::vector<std::string> before_;
   std::vector<std::string> tagsBefore_;
   Bytes music_;
@@ -187,7 +179,6 @@ class BaseScript : public test::BaseHouse {
     ren(form3().albums, form3().Text3, u"");
     pressInBase(form3().albums.del);
   }
-  void undoAll() { BaseHouse::undoAll(); }
   void expectNothingLost() {
     expectAtRest();
     EXPECT_TRUE(contents() == contents_) << TreeSnapshot::of(base()) << TreeSnapshot::of(music());

@@ -72,9 +72,6 @@ class Victim : public test::RepairHouse {
     growTags();
     fixSyntax();
   }
-  void undoAll() {
-    while (tools().undoLastOperation.enabled()) tools().undoLastOperation.click();
-  }
 
   /// The songs as they lie on the disk, less the copies that a kill left behind.
   Names songNames() {
@@ -100,8 +97,7 @@ class Victim : public test::RepairHouse {
   std::map<int, std::string> songTags() {
     std::map<int, std::string> tags;
     for (const auto& [number, name] : songNames()) {
-      const Text bare(core::dropRight(core::fromBytes(name), 4));
-      tags[number] = first(bare) + " / " + second(bare);
+      tags[number] = tagsOf(core::dropRight(core::fromBytes(name), 4));
     }
     return tags;
   }
@@ -134,7 +130,6 @@ class BaseVictim : public test::BaseHouse {
     form3().showNewMusic.click();
     expectAtRest();
   }
-  void undoAll() { BaseHouse::undoAll(); }
   void moveGenres() {
     form2().List1.select({2, 3}, 3);
     pressInNewMusic(form2().moveGenre);
@@ -155,15 +150,10 @@ class BaseVictim : public test::BaseHouse {
   Places placesBefore;
 };
 
-struct Life {
-  microseconds length;
-  bool cutShort;
-};
-
 /// Runs a command of the program in a process of its own and kills that `delay` after its beginning; without
-/// a delay it may come to its end.
+/// a delay it may come to its end. Returns whether it was cut short.
 template <typename Program>
-Life runAndKill(Program& victim, void (Program::*command)(), std::optional<microseconds> delay) {
+bool runAndKill(Program& victim, void (Program::*command)(), std::optional<microseconds> delay) {
   int ready[2];
   EXPECT_EQ(::pipe(ready), 0);
   const pid_t child = ::fork();
@@ -174,7 +164,6 @@ Life runAndKill(Program& victim, void (Program::*command)(), std::optional<micro
   }
   char byte = 0;
   EXPECT_EQ(::read(ready[0], &byte, 1), 1);
-  const auto began = steady_clock::now();
   if (delay) {
     std::this_thread::sleep_for(*delay);
     ::kill(child, SIGKILL);
@@ -183,12 +172,11 @@ Life runAndKill(Program& victim, void (Program::*command)(), std::optional<micro
   EXPECT_EQ(::waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
   for (const int end : ready) ::close(end);
-  return {std::chrono::duration_cast<microseconds>(steady_clock::now() - began), WIFSIGNALED(status)};
+  return WIFSIGNALED(status);
 }
 
 template <typename Program>
-class Torment : public testing::Test {
- protected:
+struct Torment : testing::Test {
   using Step = void (Program::*)();
 
   /// Kills the command again and again; `check` sees the program started afresh after each.
@@ -207,7 +195,7 @@ class Torment : public testing::Test {
       SCOPED_TRACE("kill " + std::to_string(i) + " at operation " + std::to_string(operation) + " or after " +
                    std::to_string(delay.count()) + " us");
       if (i % 2 == 0) killAhead(victim, operation);
-      cutShort += runAndKill(victim, command, i % 2 == 0 ? std::nullopt : std::optional(delay)).cutShort;
+      cutShort += runAndKill(victim, command, i % 2 == 0 ? std::nullopt : std::optional(delay));
       victim.program.faults.onOperation = nullptr;
       expectWhole(victim.places(), atStart);
       victim.program.forget();

@@ -1,7 +1,6 @@
 // The small rooms of the Music Base: folders, new folders, positions, years, and the state of the columns.
 
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include "base/base_state.h"

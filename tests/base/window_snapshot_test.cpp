@@ -1,7 +1,6 @@
 #include "base/window_snapshot.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
 
 #include "tests/base/new_music_world.h"
 

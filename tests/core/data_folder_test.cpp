@@ -12,8 +12,7 @@
 namespace velmora::core {
 namespace {
 
-class DataFolderTest : public testing::Test {
- protected:
+struct DataFolderTest : testing::Test {
   Bytes read(TextView name) { return folder.read(Text(u"Data/").append(name)); }
   void write(TextView name, BytesView content) { folder.write(Text(u"Data/").append(name), content); }
   bool exists(TextView name) { return folder.exists(Text(u"Data/").append(name)); }
@@ -226,18 +225,6 @@ TEST_F(DataFolderTest, ACountOfAChangeThatWasCutShortIsNotThatOfTheRows) {
     settings.setNumber(u"ghb", ofOtherRows);
     EXPECT_EQ(Loaded(data).brojfajlova(), 3);
   }
-}
-
-TEST_F(DataFolderTest, AnyBytesLoad) {
-  Bytes binary;
-  for (int i = 0; i < 4000; ++i) binary += static_cast<char>(i * 37 % 251);
-  for (const Column column : {&Track::nizdes, &Track::crtapos, &Track::imaid3v2})
-    write(DataFolder::fileOf(column), binary);
-  write(u"bazepesama.txt", Bytes(1 << 20, 'x'));
-  write(u"autori.txt", Bytes(1 << 12, '\0'));
-  const Loaded loaded(data);
-  EXPECT_GT(loaded.rows(), 0);
-  EXPECT_EQ(loaded.bazepesama.size(), 1U);
 }
 
 }  // namespace

@@ -43,15 +43,5 @@ TEST(Records, ATornTailIsTold) {
   EXPECT_FALSE(reader.next());
 }
 
-TEST(Records, CutAnywhereTheWholeOnesAboveTheCutAreLeft) {
-  const Elements elements = {u"first", true, Element(), u"\u0161\U0001D11E", u"", false, u"last"};
-  const Bytes whole = written(elements);
-  for (std::size_t cut = 0; cut <= whole.size(); ++cut) {
-    const Elements read = readAll(BytesView(whole).substr(0, cut));
-    ASSERT_LE(read.size(), elements.size()) << "cut at " << cut;
-    for (std::size_t i = 0; i + 1 < read.size(); ++i) ASSERT_EQ(read[i], elements[i]) << "cut at " << cut;
-  }
-}
-
 }  // namespace
 }  // namespace velmora::core::records

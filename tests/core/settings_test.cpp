@@ -11,8 +11,7 @@
 namespace velmora::core {
 namespace {
 
-class SettingsTest : public testing::Test {
- protected:
+struct SettingsTest : testing::Test {
   void write(BytesView content) { folder.write(u"Settings.ini", content); }
   Bytes read() { return folder.read(u"Settings.ini"); }
 

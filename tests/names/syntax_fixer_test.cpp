@@ -7,8 +7,7 @@
 namespace velmora::names {
 namespace {
 
-class SyntaxFixerTest : public testing::Test {
- protected:
+struct SyntaxFixerTest : testing::Test {
   SyntaxFixerTest() {
     options_.fix2.setChecked(true);
     options_.fixo2.setChosen(true);

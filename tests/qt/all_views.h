@@ -10,8 +10,7 @@
 namespace velmora::qt {
 
 /// All windows of the program, shown, with nothing behind them.
-class AllViews : public testing::Test {
- protected:
+struct AllViews : testing::Test {
   AllViews() {
     for (const auto* each : {u"3", u"b"}) windows.form1.List4.AddItem(Text(u"/music/new/") + each + u".mp3");
     windows.form1.tags.genre.setRows({{u"", 255}, {u"Blues", 0}});

@@ -20,8 +20,7 @@ namespace {
 using testing::ElementsAre;
 
 /// The Music Base Window and the New Music Window, with a few rows in each column.
-class BaseViewsTest : public AllViews {
- protected:
+struct BaseViewsTest : AllViews {
   BaseViewsTest() {
     for (ui::Window* each : windows.all())
       if (each != &form2 && each != &form3) each->hide();
@@ -252,8 +251,7 @@ TEST_F(BaseViewsTest, ColoursOfTheProgramCanBeReadOnAnyGround) {
 }
 
 /// Where the splitters stand.
-class SplittersTest : public BaseViewsTest {
- protected:
+struct SplittersTest : BaseViewsTest {
   QList<int> widths(QWidget* in) {
     for (auto* splitter : in->findChildren<QSplitter*>())
       if (splitter->isVisible()) return splitter->sizes();

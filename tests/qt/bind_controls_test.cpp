@@ -132,8 +132,7 @@ TEST(BindControls, OptionsExcludeEachOtherAndMayAllBeOff) {
   EXPECT_FALSE(second->isChecked());
 }
 
-class BindTextBoxTest : public testing::Test {
- protected:
+struct BindTextBoxTest : testing::Test {
   BindTextBoxTest() {
     bindTextBox(bench.refresher, model, line);
     line->setFocus();

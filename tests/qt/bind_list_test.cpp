@@ -13,8 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class BindListTest : public testing::Test {
- protected:
+struct BindListTest : testing::Test {
   ListView* bind(int rows) {
     fill(rows);
     auto* made = bench.show(new ListView);

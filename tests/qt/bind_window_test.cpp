@@ -10,8 +10,7 @@
 namespace velmora::qt {
 namespace {
 
-class BindWindowTest : public testing::Test {
- protected:
+struct BindWindowTest : testing::Test {
   void bind(QSize size = {300, 200}) {
     bindWindow({refresher, gate}, model, &widget, size);
     turn();

@@ -12,8 +12,7 @@
 namespace velmora::qt {
 namespace {
 
-class FolderTreeTest : public testing::Test {
- protected:
+struct FolderTreeTest : testing::Test {
   FolderTreeTest() {
     root = toQString(folder.path());
     QDir(root).mkpath("New music/Arvola");

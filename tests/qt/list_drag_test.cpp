@@ -58,8 +58,7 @@ TEST(ListDragTest, AListCarriesItsWordOrItsFilesOrNothing) {
 }
 
 /// Drags with the mouse from one list to another.
-class DragTest : public testing::Test {
- protected:
+struct DragTest : testing::Test {
   DragTest() {
     source.dragWord = u"List1";
     source.onClick = [this] { ++clicks; };
@@ -168,8 +167,7 @@ TEST_F(DragTest, RowsThatCarryNothingAreSelectedByDragging) {
 }
 
 /// What another program drags over the window.
-class FolderDropTest : public testing::Test {
- protected:
+struct FolderDropTest : testing::Test {
   FolderDropTest() {
     folder.write(u"New music/a song.mp3", "");
     model.onDropFolders = [this](const std::vector<Text>& paths) { dropped = paths; };

@@ -13,8 +13,7 @@
 namespace velmora::qt {
 namespace {
 
-class ListModelTest : public testing::Test {
- protected:
+struct ListModelTest : testing::Test {
   void fill(int rows) {
     std::vector<Text> texts;
     for (int i = 0; i < rows; ++i) texts.push_back(numbered(i));

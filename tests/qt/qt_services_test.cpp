@@ -39,8 +39,7 @@ using platform::Answer;
 using platform::Buttons;
 using platform::Icon;
 
-class QtDialogsTest : public testing::Test {
- protected:
+struct QtDialogsTest : testing::Test {
   // What the user does with the box that opens next.
   void then(std::function<void(QDialog&)> act) {
     QTimer::singleShot(0, &refresher, [act = std::move(act)] {
@@ -102,8 +101,7 @@ TEST_F(QtDialogsTest, InputGivesTheTextOrNothing) {
   EXPECT_FALSE(dialogs.input(u"Prompt", u"Title", u"old"));
 }
 
-class QtDesktopTest : public testing::Test {
- protected:
+struct QtDesktopTest : testing::Test {
   test::TempFolder folder;
   system::InstanceLock lock{folder.path()};
   QtDesktop desktop{lock};
@@ -120,18 +118,11 @@ TEST_F(QtDesktopTest, PumpsAtMostOncePerFrame) {
   EXPECT_EQ(handled, 1);
 }
 
-TEST_F(QtDesktopTest, SleepPaintsButHoldsTheUserBack) {
-  Bench bench;
-  auto* button = bench.show(new QPushButton);
-  int clicks = 0, ticks = 0;
-  QObject::connect(button, &QPushButton::clicked, [&] { ++clicks; });
+TEST_F(QtDesktopTest, SleepLastsAndLetsTimersBeat) {
+  int ticks = 0;
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
   timer.start(5);
-  QTimer::singleShot(5, [&] {
-    QTest::mouseEvent(QTest::MousePress, bench.widget.windowHandle(), Qt::LeftButton, {}, QPoint(9, 9));
-    QTest::mouseEvent(QTest::MouseRelease, bench.widget.windowHandle(), Qt::LeftButton, {}, QPoint(9, 9));
-  });
   const auto before = desktop.clockMilliseconds();
   desktop.sleep(60);
   EXPECT_GE(desktop.clockMilliseconds() - before, 60);

@@ -14,8 +14,7 @@
 namespace velmora::qt {
 namespace {
 
-class RepairViewTest : public testing::Test {
- protected:
+struct RepairViewTest : testing::Test {
   ui::Form1 form1;  // outlives its widgets
   Bench bench;
 };
@@ -55,8 +54,7 @@ TEST_F(RepairViewTest, ACommandThatIsHiddenFromTheStartTakesNoRoom) {
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
 }
 
-class PlayerBarTest : public RepairViewTest {
- protected:
+struct PlayerBarTest : RepairViewTest {
   PlayerBarTest() {
     form1.player.position.onPress = [this] { events += 'p'; };
     form1.player.position.onMove = [this] { events += 'm'; };

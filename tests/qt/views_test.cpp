@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <set>
 
 #include <QAbstractButton>
@@ -18,8 +17,7 @@
 namespace velmora::qt {
 namespace {
 
-class ViewsTest : public AllViews {
- protected:
+struct ViewsTest : AllViews {
   static bool isControl(const QWidget* widget) {
     return (qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
             qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractItemView*>(widget)) &&

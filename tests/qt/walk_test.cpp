@@ -20,8 +20,7 @@ namespace {
 using testing::ElementsAre;
 
 /// The real program on real files, used through its widgets.
-class WalkTest : public testing::Test {
- protected:
+struct WalkTest : testing::Test {
   WalkTest() {
     folder.write(u"state/Settings.ini", settings);
     qputenv("VELMORA_HOME", folder.native(u"state").c_str());

@@ -53,13 +53,23 @@ void RepairHouse::selectAll() {
 void RepairHouse::click(ui::Button& button) {
   EXPECT_TRUE(button.enabled());
   button.click();
-  EXPECT_TRUE(form1().enabled());
-  EXPECT_FALSE(program.windows().dialog1.visible());
+  expectAtRest();
 }
 
 void RepairHouse::clickForAll(ui::Button& button) {
   selectAll();
   click(button);
+}
+
+void RepairHouse::undoAll() {
+  for (int undone = 0; tools().undoLastOperation.enabled() && undone < 2000; ++undone)
+    tools().undoLastOperation.click();
+}
+
+void RepairHouse::expectAtRest() {
+  EXPECT_TRUE(form1().enabled());
+  EXPECT_FALSE(program.windows().dialog1.visible());
+  EXPECT_EQ(program.table().puniliste, 0);
 }
 
 Names RepairHouse::names() const {

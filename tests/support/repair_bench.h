@@ -32,6 +32,10 @@ class RepairHouse {
   /// The same with all files selected.
   void clickForAll(ui::Button& button);
   void undo() { click(tools().undoLastOperation); }
+  /// Undoes all there is, without a look at what comes of it.
+  void undoAll();
+  /// No command is left open.
+  void expectAtRest();
 
   /// Names of the files in the folder, sorted.
   Names names() const;
@@ -43,6 +47,7 @@ class RepairHouse {
   /// Tags as a program that never saw the file before reads them: artist, title, album, year, track.
   std::string first(TextView name);
   std::string second(TextView name);
+  std::string tagsOf(TextView name) { return first(name) + " / " + second(name); }
   /// Kinds of the journal's records, oldest first.
   Names kinds() const;
 

@@ -19,7 +19,6 @@ class TreeSnapshot {
   bool operator==(const TreeSnapshot&) const = default;
 
   std::size_t files() const;
-  bool has(const std::string& name) const { return entries_.contains(name); }
   /// Whether each file of `before` stands here still, under whatever name: the proof that nothing was lost.
   bool holdsAllContentsOf(const TreeSnapshot& before) const;
 

@@ -22,8 +22,7 @@ using platform::FileError;
 using test::errorNumber;
 using test::TreeSnapshot;
 
-class TrashTest : public testing::Test {
- protected:
+struct TrashTest : testing::Test {
   Bytes info(TextView name) { return home.read(Text(u"Trash/info/").append(name).append(u".trashinfo")); }
   bool hasInfo(TextView name) { return home.exists(Text(u"Trash/info/").append(name).append(u".trashinfo")); }
 
@@ -137,8 +136,7 @@ TEST_F(TrashTest, AFailureAnywhereLosesNothing) {
   }
 }
 
-class VolumeTrashTest : public TrashTest {
- protected:
+struct VolumeTrashTest : TrashTest {
   void SetUp() override { files.pretendVolume(volume.path()); }
 
   const Text user = core::fromBytes(std::to_string(::getuid()));

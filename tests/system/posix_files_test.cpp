@@ -22,8 +22,7 @@ using platform::FileError;
 using platform::OpenMode;
 using test::errorNumber;
 
-class PosixFilesTest : public testing::Test {
- protected:
+struct PosixFilesTest : testing::Test {
   test::TempFolder folder;
   PosixFiles files;
 };

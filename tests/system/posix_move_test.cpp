@@ -26,8 +26,7 @@ struct stat statusOf(const Text& path) {
   return status;
 }
 
-class MoveTest : public testing::Test {
- protected:
+struct MoveTest : testing::Test {
   test::TempFolder folder;
   PosixFiles files;
 };
@@ -134,8 +133,7 @@ TEST_F(MoveTest, DisksWithoutACheckedRenameDoNotOverwriteEither) {
   }
 }
 
-class MoveAcrossTest : public MoveTest {
- protected:
+struct MoveAcrossTest : MoveTest {
   void SetUp() override {
     if (!other.available()) GTEST_SKIP() << "this machine offers no second volume";
   }

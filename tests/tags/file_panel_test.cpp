@@ -1,7 +1,5 @@
 #include "tags/file_panel.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/tags/tag_fixture.h"
 
 namespace velmora::tags {
@@ -12,8 +10,7 @@ using test::Id3v2Maker;
 const test::SongTags first{u"First", u"Artist 1", u"Album 1", u"1991", 1, {}};
 const test::SongTags second{u"Second", u"Artist 2", u"Album 2", u"1992", 2, u"Rock"};
 
-class Panel : public TagFixture {
- protected:
+struct Panel : TagFixture {
   Panel() {
     // As the program wires it.
     form1.tags.viewID3v1.onClick = [this] { panel.showTags(); };

@@ -1,7 +1,5 @@
 #include "tags/id3v1.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/file_error.h"
 #include "tags/genre.h"
 #include "tests/tags/tag_fixture.h"
@@ -12,8 +10,7 @@ namespace {
 using platform::Answer;
 using test::id3v1Tag;
 
-class ID3v1 : public TagFixture {
- protected:
+struct ID3v1 : TagFixture {
   cMP3ID3v1 tagOf(const Bytes& bytes) {
     cMP3ID3v1 tag(files);
     tag.setMP3File(folder.write(u"song.mp3", bytes));

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <random>
 
 #include "core/code_page.h"
@@ -19,8 +18,7 @@ using test::TagEncoding;
 
 const test::SongTags tags{u"Harbour", u"Arvola", u"Northern Lights", u"1999", 7, u"(17)"};
 
-class ID3v2Read : public TagFixture {
- protected:
+struct ID3v2Read : TagFixture {
   cMP3ID3v2 tagOf(const Bytes& bytes) {
     test::MemoryFile file(bytes);
     SongBytes song(file);

@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -28,8 +27,7 @@ Bytes grown(const Bytes& file, std::size_t count, const Bytes& tag) {
   return bytes.replace(0, tag.size(), tag);
 }
 
-class ID3v2Write : public TagFixture {
- protected:
+struct ID3v2Write : TagFixture {
   cMP3ID3v2 tagOf(const Bytes& bytes) {
     cMP3ID3v2 tag(files);
     tag.setMP3File(folder.write(u"song.mp3", bytes));

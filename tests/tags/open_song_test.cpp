@@ -11,8 +11,7 @@
 namespace velmora::tags {
 namespace {
 
-class Song : public TagFixture {
- protected:
+struct Song : TagFixture {
   Bytes pattern(std::size_t count) const {
     Bytes bytes(count, '\0');
     for (std::size_t i = 0; i < count; ++i) bytes[i] = static_cast<char>(i * 7 % 251);

@@ -1,6 +1,5 @@
 #include "tags/tag_cache.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "core/text.h"
@@ -14,8 +13,7 @@ namespace {
 using core::Element;
 using test::Id3v2Maker;
 
-class Cache : public TagFixture {
- protected:
+struct Cache : TagFixture {
   /// Adds a row for a file of these bytes.
   int add(const Bytes& bytes) {
     table.appendPath(

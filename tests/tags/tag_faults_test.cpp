@@ -1,7 +1,6 @@
 // Whatever fails while a tag is written or removed, the song comes out whole, and nothing stays beside it.
 
 #include <functional>
-#include <gtest/gtest.h>
 
 #include "platform/file_error.h"
 #include "tags/id3v1.h"
@@ -16,8 +15,7 @@
 namespace velmora::tags {
 namespace {
 
-class TagFaults : public TagFixture {
- protected:
+struct TagFaults : TagFixture {
   TagFaults() {
     dialogs.otherwise = [](platform::Buttons) { return platform::Answer::Ignore; };
   }

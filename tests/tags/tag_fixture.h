@@ -12,8 +12,7 @@
 namespace velmora::tags {
 
 /// Real files in a folder of their own, and dialogs that answer by a script.
-class TagFixture : public testing::Test {
- protected:
+struct TagFixture : testing::Test {
   UpdateContext context() { return {dialogs, table}; }
 
   test::TempFolder folder;

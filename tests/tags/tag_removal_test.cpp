@@ -1,7 +1,5 @@
 #include "tags/tag_removal.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/file_error.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/tags/tag_fixture.h"
@@ -9,8 +7,7 @@
 namespace velmora::tags {
 namespace {
 
-class Removal : public TagFixture {
- protected:
+struct Removal : TagFixture {
   Bytes withoutID3v2(const Bytes& bytes) {
     SkiniID3v2(files, desktop, player, folder.write(u"song.mp3", bytes));
     return folder.read(u"song.mp3");

@@ -1,7 +1,6 @@
 #include "tags/update_tags.h"
 
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -33,8 +32,7 @@ class NotingHolder final : public player::FileHolder {
   void close() override {}
 };
 
-class Writer : public TagFixture {
- protected:
+struct Writer : TagFixture {
   Writer() {
     form1.tags.viewID3v1.onClick = [this] { panel.showTags(); };
     form1.tags.viewID3v2.onClick = [this] { panel.showTags(); };
