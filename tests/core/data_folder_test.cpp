@@ -162,11 +162,9 @@ TEST_F(DataFolderTest, AFullDiskCostsTheColumnsThatDoNotFitAndNoOther) {
 TEST_F(DataFolderTest, ARowWithoutAnElementInEachTagColumnIsUnread) {
   fill();
   for (int row = 1; row <= 4; ++row) table.track(row).procitan = true;
-  data.SaveID3nizove(table);
-  data.savenizove(table);
+  save(table);
   const auto readRows = [this] {
-    TrackTable loaded;
-    load(loaded);
+    const Loaded loaded(data);
     int read = 0;
     for (int row = 1; row <= loaded.rows(); ++row) read += loaded.track(row).procitan.isTrue() ? 1 : 0;
     return read;
