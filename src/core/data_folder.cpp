@@ -191,22 +191,25 @@ void DataFolder::savenizove(const TrackTable& table) {
   unmark();
 }
 
-/// Row by row and not column by column, so that each row is fetched from memory once for all files. Rows of
-/// the tail hold nothing, and there may be many: what holds nothing is only counted until something follows.
+/// All columns get one length, so that a row that was read into a column without storage is kept. Row by row
+/// and not column by column, so that each row is fetched from memory once for all files. Rows of the tail
+/// hold nothing, and there may be many: what holds nothing is only counted until something follows.
 void DataFolder::SaveID3nizove(const TrackTable& table) {
   struct File {
     Column column;
-    int rows;
     Bytes content;
     std::size_t nothing = 0;  // elements not yet in the content
   };
   std::vector<File> files;
-  for (const Column column : tagColumns()) files.push_back({column, table.upperBound(column), {}});
-  const int last = std::ranges::max(files, {}, &File::rows).rows;
+  int last = table.rows();
+  while (last > 0 && table.track(last).procitan.isNothing()) --last;
+  for (const Column column : tagColumns()) {
+    files.push_back({column, {}});
+    last = std::max(last, table.upperBound(column));
+  }
   for (int row = 1; row <= last; ++row) {
     const Track& track = table.track(row);
     for (File& file : files) {
-      if (row > file.rows) continue;
       const Element& element = table.hasRow(row) ? track.*file.column : table.element(file.column, row);
       if (element.isNothing()) {
         ++file.nothing;

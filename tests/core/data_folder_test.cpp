@@ -172,8 +172,16 @@ TEST_F(DataFolderTest, ARowWithoutAnElementInEachTagColumnIsUnread) {
   EXPECT_EQ(readRows(), 4);
   write(u"albumid3v2.txt", "\r\n\r\n\"An");
   EXPECT_EQ(readRows(), 2);
-  data.remove(u"pevacID3v1.txt");
-  EXPECT_EQ(readRows(), 0);
+  for (const Column lost : {&Track::pevacID3v1, &Track::procitan}) {
+    data.remove(DataFolder::fileOf(lost));
+    EXPECT_EQ(readRows(), 0);
+    Loaded again(data);
+    again.track(3).procitan = true;
+    again.track(3).pevacID3v1 = u"b";
+    data.SaveID3nizove(again);
+    EXPECT_EQ(readRows(), 1) << "what was read again is kept";
+    EXPECT_EQ(Loaded(data).track(3).pevacID3v1, Element(u"b"));
+  }
 }
 
 // The column files are cut, at every length, one at a time; then the table is loaded, saved and loaded again.
@@ -208,9 +216,12 @@ TEST_F(DataFolderTest, AfterAChangeThatWasCutShortNoRowIsTakenForRead) {
   data.beginChange();
   table.removeRow(1);
   data.savenizove(table);
-  const Loaded loaded(data);
+  Loaded loaded(data);
   for (int row = 1; row <= loaded.rows(); ++row)
     EXPECT_FALSE(loaded.track(row).procitan.isTrue()) << "its tags are those of the row above";
+  loaded.track(2).procitan = true;
+  data.SaveID3nizove(loaded);
+  EXPECT_TRUE(Loaded(data).track(2).procitan.isTrue()) << "read again, and kept";
   data.SaveID3nizove(table);
   EXPECT_TRUE(Loaded(data).track(1).procitan.isTrue());
 }
