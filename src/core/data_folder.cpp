@@ -188,7 +188,7 @@ void DataFolder::savenizove(const TrackTable& table) {
   writeList(autoriFile, table.autori);
   savedTail_ = table.rows() - table.workingRows();
   namesTold_ = true;
-  unmark();
+  tagsTold_ ? unmark() : writeMark(savedTail_);
 }
 
 /// All columns get one length, so that a row that was read into a column without storage is kept. Row by row
@@ -234,9 +234,12 @@ void DataFolder::beginChange() {
 }
 
 void DataFolder::mark() {
+  if (files_.fileExists(changing_)) return;
+  writeMark(files_.fileExists(path(fileOf(&Track::nizdes))) ? savedTail_ : 0);
+}
+
+void DataFolder::writeMark(int tail) {
   try {
-    if (files_.fileExists(changing_)) return;
-    const int tail = files_.fileExists(path(fileOf(&Track::nizdes))) ? savedTail_ : 0;
     files_.writeAll(changing_, toBytes(number(std::int64_t{tail})));
   } catch (const platform::FileError&) {
     // Without the mark a kill may leave a row read that is not, or a count of other rows; nothing worse.

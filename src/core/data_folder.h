@@ -50,9 +50,10 @@ class DataFolder {
   /// Makes `content` the file's content, or removes the file when that is empty or cannot be written.
   void store(TextView fileName, BytesView content);
   void mark();
+  void writeMark(int tail);
   /// Takes the mark away, unless a save is still to come.
   void unmark();
-  /// Rows of the Music Base at the end of nizdes.txt when the mark was made; nothing without a mark.
+  /// Rows of the Music Base at the end of nizdes.txt as the mark tells them; nothing without a mark.
   std::optional<int> markedTail() const;
 
   platform::Files& files_;

@@ -234,6 +234,15 @@ TEST_F(DataFolderTest, ACountOfAChangeThatWasCutShortIsNotThatOfTheRows) {
     settings.setNumber(u"ghb", ofOtherRows);
     EXPECT_EQ(Loaded(data).brojfajlova(), 3);
   }
+  data.remove(u"bazaniz.txt");
+  for (int tail = 1; tail <= 2; ++tail) {
+    TrackTable loaded;
+    load(loaded);
+    EXPECT_EQ(loaded.rows(), 3 + tail);
+    EXPECT_EQ(loaded.brojfajlova(), 3);
+    table.appendPath(u"/base/f.mp3");
+    data.savenizove(table);
+  }
 }
 
 }  // namespace
