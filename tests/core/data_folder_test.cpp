@@ -236,8 +236,7 @@ TEST_F(DataFolderTest, ACountOfAChangeThatWasCutShortIsNotThatOfTheRows) {
   }
   data.remove(u"bazaniz.txt");
   for (int tail = 1; tail <= 2; ++tail) {
-    TrackTable loaded;
-    load(loaded);
+    const Loaded loaded(data);
     EXPECT_EQ(loaded.rows(), 3 + tail);
     EXPECT_EQ(loaded.brojfajlova(), 3);
     table.appendPath(u"/base/f.mp3");
