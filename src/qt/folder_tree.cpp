@@ -1,6 +1,5 @@
 #include "qt/folder_tree.h"
 
-#include <QAbstractFileIconProvider>
 #include <QDir>
 #include <QFileSystemModel>
 #include <QHeaderView>
@@ -10,22 +9,12 @@
 #include <QStandardPaths>
 #include <QStyledItemDelegate>
 
+#include "qt/folder_icons.h"
 #include "qt/grid.h"
-#include "qt/icons.h"
 
 namespace velmora::qt {
 
 namespace {
-
-// One icon for all: asking the system about each folder would open them one by one.
-class FolderIcons final : public QAbstractFileIconProvider {
- public:
-  QIcon icon(IconType) const override { return folder_; }
-  QIcon icon(const QFileInfo&) const override { return folder_; }
-
- private:
-  QIcon folder_ = glyph(QStringLiteral("folder"));
-};
 
 // A row with some air, as the rows of the lists have it.
 class AiryRows final : public QStyledItemDelegate {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "core/text.h"
 #include "qt/end_signals.h"
 #include "qt/icons.h"
 #include "qt/qt_desktop.h"
@@ -14,6 +15,17 @@
 #include "system/program_folder.h"
 
 namespace velmora::qt {
+
+namespace {
+
+/// For whoever starts it from a terminal: the program itself starts and saves without a word.
+void warnIfNothingIsKept(const Text& folder) {
+  if (system::canKeepFiles(folder)) return;
+  qWarning("Nothing can be written into %s: the list, the options and what Undo needs will not be kept.",
+           core::toBytes(folder).c_str());
+}
+
+}  // namespace
 
 /// In the order in which they need each other; they go in the opposite order, views first.
 struct Program::Machine {
@@ -48,6 +60,7 @@ void Program::prepare(QApplication& application) {
 }
 
 int Program::run() {
+  warnIfNothingIsKept(machine_->folders.program);
   // Not quit(), which would ask the windows first.
   machine_->velmora.onEnd = [] { QCoreApplication::exit(0); };
   QMetaObject::invokeMethod(

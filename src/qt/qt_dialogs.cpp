@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "qt/folder_icons.h"
 #include "qt/folder_tree.h"
 #include "qt/text.h"
 
@@ -124,7 +125,10 @@ std::optional<Text> QtDialogs::input(const Text& prompt, const Text& title, cons
 std::optional<Text> QtDialogs::pickFolder(const Text& title, const Text& start) {
   const QString first = QDir::fromNativeSeparators(toQString(start));
   const bool known = !first.isEmpty() && QDir(first).exists();
-  QFileDialog dialog(owner(), shown(title), known ? first : FolderTree::defaultFolder());
+  FolderIcons icons;  // told before a folder is, and it outlives the dialog
+  QFileDialog dialog(owner(), shown(title));
+  dialog.setIconProvider(&icons);
+  dialog.setDirectory(known ? first : FolderTree::defaultFolder());
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
   if (!run(dialog) || dialog.selectedFiles().isEmpty()) return {};

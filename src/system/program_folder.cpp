@@ -5,9 +5,11 @@
 #include <filesystem>
 #include <stdlib.h>
 #include <sys/file.h>
+#include <unistd.h>
 
 #include "core/paths.h"
 #include "core/text.h"
+#include "platform/file_error.h"
 #include "system/descriptor.h"
 #include "system/posix_files.h"
 #include "system/user_folders.h"
@@ -35,8 +37,16 @@ Text chosenFolder() {
 
 Text programFolder() {
   Text folder = chosenFolder();
-  PosixFiles().makeFolder(folder);
+  try {
+    PosixFiles().makeFolder(folder);
+  } catch (const platform::FileError&) {
+    // Nothing will be kept, which canKeepFiles tells.
+  }
   return folder;
+}
+
+bool canKeepFiles(const Text& folder) {
+  return PosixFiles().folderExists(folder) && ::access(core::toBytes(folder).c_str(), W_OK | X_OK) == 0;
 }
 
 Text shippedFolder() {

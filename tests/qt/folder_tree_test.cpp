@@ -1,8 +1,11 @@
 #include "qt/folder_tree.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
+#include <QFileInfo>
 
 #include "qt/bind.h"
 #include "qt/text.h"
@@ -55,6 +58,17 @@ TEST_F(FolderTreeTest, OfAFolderThatIsGoneItShowsTheNearestParent) {
 TEST_F(FolderTreeTest, StartsSomewhereUseful) {
   bind();
   EXPECT_EQ(model.path(), toText(FolderTree::defaultFolder()));
+}
+
+TEST_F(FolderTreeTest, NoFileIsOpenedForItsKind) {
+  const Text unknown = folder.write(u"New music/of no kind", "bytes");
+  const timespec longAgo[] = {{1, 0}, {2, 0}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, folder.native(u"New music/of no kind").c_str(), longAgo, 0), 0);
+  model.setPath(toText(root + "/New music"));
+  bind();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return tree->model()->rowCount(tree->currentIndex()) == 2; }));
+  QTest::qWait(50);
+  EXPECT_EQ(QFileInfo(toQString(unknown)).lastRead().toSecsSinceEpoch(), 1);
 }
 
 TEST_F(FolderTreeTest, MouseAndKeysChooseAFolder) {

@@ -33,6 +33,14 @@ TEST(ProgramFolder, IsTheOneThatTheUserNames) {
   const Variable home("VELMORA_HOME", folder.native(u"own place").c_str());
   EXPECT_EQ(programFolder(), folder.path(u"own place"));
   EXPECT_TRUE(folder.exists(u"own place")) << "made at first use";
+  EXPECT_TRUE(canKeepFiles(folder.path(u"own place")));
+}
+
+TEST(ProgramFolder, OneThatCannotBeMadeIsChosenAllTheSame) {
+  const Variable home("VELMORA_HOME", "/proc/nowhere");
+  EXPECT_EQ(programFolder(), u"/proc/nowhere");
+  EXPECT_FALSE(canKeepFiles(u"/proc/nowhere"));
+  EXPECT_FALSE(canKeepFiles(u"/dev/null"));
 }
 
 TEST(ProgramFolder, LiesElseAmongTheUsersData) {
