@@ -217,6 +217,7 @@ void BaseLists::listTitles() {
   form3.Text3.setText(clicked == withoutFolder ? Text() : clicked);
   std::vector<Text> albums;
   std::vector<ListItem> rows;
+  looseArtists_.clear();
   const auto add = [&rows](std::vector<Text> names, int album) {
     const std::size_t first = rows.size();
     for (Text& name : names) rows.push_back({std::move(name), album});
@@ -232,6 +233,7 @@ void BaseLists::listTitles() {
       const auto known = artistContents_.find(artist);
       add(known != artistContents_.end() ? known->second.files : filesIn(parts_.files, artistPath(artist)),
           album);
+      looseArtists_.resize(rows.size(), artist);
     }
   }
   form3.List7.fill(std::move(albums));

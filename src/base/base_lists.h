@@ -89,7 +89,7 @@ class BaseLists {
   Text genrePath(int index) const;   ///< of a row of List1
   Text artistPath(int index) const;  ///< of a row of List2
   Text albumPath(int index) const;   ///< of a row of List3; the artist's folder for "-<< Without Folder >>-"
-  /// Of a row of List4, after the probe for files outside of album folders.
+  /// Of a row of List4. For a file outside of album folders, "-<< Without Folder >>-" gets its artist.
   Text filePath(int index);
   bool isWithoutFolder(int index) const { return index == 0 && parts_.form3.List3.List(0) == withoutFolder; }
   Text titleOf(int index) const;  ///< title of a row of List4, as List8 shows it
@@ -106,7 +106,6 @@ class BaseLists {
   std::vector<ui::ListItem> albumRows(const std::vector<int>& artists);
   void selectAlbums(const Text& artist);
   void restoreTitle();
-  void findArtistOf(int index);
   void play(int title);
   bool atWork() const;
   bool quiet() const { return parts_.table.puniliste == 1; }
@@ -117,6 +116,9 @@ class BaseLists {
   Text root_;
   bool armed_ = true;                                 // a click on a title may play it
   std::unordered_map<int, Contents> artistContents_;  // by index, for the length of one click on List2
+  // Index of the artist of each file outside of album folders, which begin List4. Artists may have files of
+  // one name, so the disk alone would not tell.
+  std::vector<int> looseArtists_;
 };
 
 }  // namespace velmora::base

@@ -44,25 +44,11 @@ Text BaseLists::albumPath(int index) const {
 Text BaseLists::filePath(int index) {
   const ui::ListBox& files = parts_.form3.List4;
   if (!inside(files, index)) return {};
-  if (isWithoutFolder(files.ItemData(index))) findArtistOf(index);
+  const auto place = static_cast<std::size_t>(index);
+  if (isWithoutFolder(files.ItemData(index)) && place < looseArtists_.size())
+    parts_.form3.List3.setItemData(0, looseArtists_[place]);
   const Text folder = albumPath(files.ItemData(index));
   return folder.empty() ? Text() : folder + files.List(index);
-}
-
-/// Files of several artists may bear one name. They are listed artist by artist, so the n-th row of a name is
-/// the file of the n-th artist who has it.
-void BaseLists::findArtistOf(int index) {
-  ui::Form3& form3 = parts_.form3;
-  const Text& name = form3.List4.List(index);
-  const std::vector<int> artists = form3.List2.selectedIndexes();
-  int before = 0;
-  for (int other = 0; other < index && artists.size() > 1; ++other)
-    if (form3.List4.ItemData(other) == 0 && form3.List4.List(other) == name) ++before;
-  for (const int artist : artists) {
-    if (!parts_.files.fileExists(artistPath(artist) + name) || before-- > 0) continue;
-    form3.List3.setItemData(0, artist);
-    return;
-  }
 }
 
 std::vector<Text> BaseLists::draggedFiles(const ui::ListBox& column) {

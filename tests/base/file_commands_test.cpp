@@ -87,6 +87,12 @@ TEST_F(FileCommandsTest, DelTakesTheFileOfTheArtistWhoseRowItIs) {
   form3.List8.select({1}, 1);
   del();
   EXPECT_EQ(trash.sent, std::vector<Text>{at(u"R/B/A - own.mp3")});
+  make({u"R/B/A - own.mp3"});
+  click(form3.List2, {u"A", u"B"});
+  folder.removeAll(u"base/R/A/A - own.mp3");
+  form3.List8.select({0}, 0);
+  del();
+  EXPECT_TRUE(there(u"R/B/A - own.mp3")) << "the row of a file that has gone leads to no other";
 }
 
 }  // namespace
