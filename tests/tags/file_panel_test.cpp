@@ -55,7 +55,7 @@ struct Panel : TagFixture {
 };
 
 TEST_F(Panel, ShowsTheFactsOfAnMpegFile) {
-  Bytes song = test::mpegHeader({});
+  Bytes song(test::mpegHeader);
   song.resize(4'000'000, '\0');
   const int row = add(u"Long.MP3", song);
   info(row);
