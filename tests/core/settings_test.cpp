@@ -5,7 +5,6 @@
 
 #include "core/records.h"
 #include "system/posix_files.h"
-#include "tests/support/file_errors.h"
 #include "tests/support/temp_folder.h"
 
 namespace velmora::core {
@@ -61,14 +60,6 @@ TEST_F(SettingsTest, AReadOnlyFileStaysAndNoFailureShows) {
   ASSERT_EQ(::chmod(folder.native(u"Settings.ini").c_str(), 0444), 0);
   settings.set(u"ton", u"2");
   EXPECT_EQ(settings.get(u"ton"), u"1");
-}
-
-TEST_F(SettingsTest, AFullDiskLeavesTheFileAsItWas) {
-  settings.set(u"ton", u"1");
-  const test::FileSizeLimit full(4096);
-  settings.set(u"novidir", Text(5000, u'x'));
-  EXPECT_EQ(settings.get(u"ton"), u"1");
-  EXPECT_EQ(settings.get(u"novidir"), u"");
 }
 
 // What is left of a settings file that was cut while it was written, and then used on.
