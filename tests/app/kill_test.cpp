@@ -1,6 +1,5 @@
 // The program is killed at random moments of its commands, and started again on what that left behind.
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>

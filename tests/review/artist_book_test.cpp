@@ -13,20 +13,22 @@ struct ArtistBookTest : test::HouseWorld {
   ArtistBook& book = house.artists;
 
   /// One row for each artist, the first `working` of them in the working list.
-  void rows(const Texts& artists, int working) {
+  void rows(const Texts& artists, int working) { rows(table, artists, working); }
+  static void rows(core::TrackTable& in, const Texts& artists, int working) {
     for (const Text& artist : artists) {
-      table.appendPath(u"/m/" + artist + u".mp3");
-      table.setParts(table.rows(), artist, u"");
+      in.appendPath(u"/m/" + artist + u".mp3");
+      in.setParts(in.rows(), artist, u"");
     }
-    table.setBrojfajlova(working);
-    table.aktivniprozor = 1;
+    in.setBrojfajlova(working);
+    in.aktivniprozor = 1;
   }
-  void give(int row, const Text& artist) {
-    const Text before = table.track(row).pevac.text();
-    table.currentRow = row;
-    table.setParts(row, artist, u"");
-    book.DodajAutora(artist);
-    book.IzbaciAutora(before);
+  void give(int row, const Text& artist) { give(table, book, row, artist); }
+  static void give(core::TrackTable& in, ArtistBook& by, int row, const Text& artist) {
+    const Text before = in.track(row).pevac.text();
+    in.currentRow = row;
+    in.setParts(row, artist, u"");
+    by.DodajAutora(artist);
+    by.IzbaciAutora(before);
   }
   Texts saved() { return data.readList(u"autori.txt"); }
   void openView() {
@@ -77,10 +79,7 @@ TEST_F(ArtistBookTest, ABatchEndsLikeTheSameChangesOneByOne) {
   rows(artists, 30);
   core::TrackTable plainTable;
   ArtistBook plain{plainTable, data, form1};
-  for (const Text& artist : artists)
-    plainTable.appendPath(artist), plainTable.setParts(plainTable.rows(), artist, u"");
-  plainTable.setBrojfajlova(30);
-  plainTable.aktivniprozor = 1;
+  rows(plainTable, artists, 30);
   book.collect({});
   plain.collect({});
   {
@@ -90,11 +89,7 @@ TEST_F(ArtistBookTest, ABatchEndsLikeTheSameChangesOneByOne) {
       const int row = static_cast<int>(random() % 40) + 1;
       const Text artist = artists[random() % 40] + (random() % 3 == 0 ? u"" : u" x");
       give(row, artist);
-      const Text before = plainTable.track(row).pevac.text();
-      plainTable.currentRow = row;
-      plainTable.setParts(row, artist, u"");
-      plain.DodajAutora(artist);
-      plain.IzbaciAutora(before);
+      give(plainTable, plain, row, artist);
     }
   }
   EXPECT_EQ(table.autori, plainTable.autori);
