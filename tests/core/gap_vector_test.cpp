@@ -41,5 +41,15 @@ TEST(GapVector, IsAVectorInEveryOrderOfChanges) {
   }
 }
 
+TEST(GapVector, WhatIsErasedIsLetGo) {
+  core::GapVector<std::shared_ptr<int>> gap;
+  const auto item = std::make_shared<int>(1);
+  for (int i = 0; i < 3; ++i) gap.push_back(item);
+  gap.erase(1);
+  EXPECT_EQ(item.use_count(), 3);
+  gap.resize(0);
+  EXPECT_EQ(item.use_count(), 1);
+}
+
 }  // namespace
 }  // namespace velmora

@@ -144,6 +144,12 @@ TEST_F(QtDesktopTest, OpensFilesByTheirBytesAndPagesByTheirAddress) {
   EXPECT_EQ(opened.urls.value(1), "https://example.org/a?b=c");
 }
 
+TEST_F(QtDesktopTest, NoticesAnotherInstanceOnTheSameFolder) {
+  EXPECT_FALSE(desktop.anotherInstanceRunning());
+  const system::InstanceLock second(folder.path());
+  EXPECT_TRUE(QtDesktop(second).anotherInstanceRunning());
+}
+
 }  // namespace
 }  // namespace velmora::qt
 
