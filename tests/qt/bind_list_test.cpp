@@ -116,6 +116,20 @@ TEST_F(BindListTest, TheTopRowFollowsTheScrollBarAndLeadsIt) {
       << "else a row that code selects is brought into sight";
 }
 
+TEST_F(BindListTest, APlaceFromBeforeTheWindowWasShownIsKept) {
+  fill(500);
+  list.setSelected(3, true);
+  list.setTopIndex(120);
+  auto* early = new ListView(&bench.widget);
+  bindList(bench.refresher, list, early);
+  bench.turn();
+  EXPECT_EQ(list.TopIndex(), 120);
+  bench.show(early);
+  bench.turn();
+  EXPECT_EQ(early->indexAt(QPoint(1, 1)).row(), 120);
+  EXPECT_EQ(list.TopIndex(), 120);
+}
+
 TEST_F(BindListTest, KeysGoToTheListFirst) {
   bind(10);
   std::vector<ui::Key> keys;
