@@ -1,6 +1,6 @@
 #include "base/move_collect.h"
 
-#include <ranges>
+#include <algorithm>
 #include <unordered_map>
 
 #include "base/move_names.h"
@@ -11,8 +11,19 @@
 
 namespace velmora::base {
 
+namespace {
+
+/// Selected rows are gone through from the bottom up.
+template <typename Item>
+std::vector<Item> lastFirst(std::vector<Item> items) {
+  std::ranges::reverse(items);
+  return items;
+}
+
+}  // namespace
+
 void MoveCollect::titles(const Text& album) {
-  for (const int index : form2_.List4.selectedIndexes() | std::views::reverse)
+  for (const int index : lastFirst(form2_.List4.selectedIndexes()))
     add({form2_.List4.ItemData(index)}, album);
 }
 
@@ -21,7 +32,7 @@ void MoveCollect::albums(const std::vector<GenreRow>& genres, const Text& artist
   std::unordered_map<Text, std::vector<int>> rowsOf;
   for (Group& group : byAlbum(songs)) rowsOf.emplace(std::move(group.text), std::move(group.rows));
   const ui::ListBox& list = byFolder() ? form2_.List8 : form2_.List3;
-  for (const int index : list.selectedIndexes() | std::views::reverse) {
+  for (const int index : lastFirst(list.selectedIndexes())) {
     const Text& row = list.List(index);
     const bool noAlbum = !byFolder() && index == 1;
     const std::vector<int>& rows = index == 0 ? songs : rowsOf[noAlbum ? Text() : row];
@@ -34,12 +45,12 @@ void MoveCollect::albums(const std::vector<GenreRow>& genres, const Text& artist
 }
 
 void MoveCollect::artists(const std::vector<GenreRow>& genres, const Text& genre) {
-  for (const int index : form2_.List2.selectedIndexes() | std::views::reverse)
+  for (const int index : lastFirst(form2_.List2.selectedIndexes()))
     oneArtist(genres, form2_.List2.List(index), genre);
 }
 
 void MoveCollect::genres(const std::vector<GenreRow>& genres, const Text& root) {
-  for (const GenreRow& genre : genres | std::views::reverse) {
+  for (const GenreRow& genre : lastFirst(genres)) {
     const Text folder = root + pathLevel(genreFolder(genre));
     makeFolder(folder);
     for (const Text& artist : rows_.artists({genre})) oneArtist({genre}, artist, folder);

@@ -1,7 +1,6 @@
 #include "base/title_text.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "core/text.h"
@@ -43,9 +42,11 @@ int TitleText::dashOf(TextView fileName) const {
 
 /// The last of the artists that occurs in the name; empty when none does.
 TextView TitleText::lastOfFew(TextView fileName) const {
-  for (const Text& artist : artists_ | std::views::reverse)
-    if (!artist.empty() && fileName.find(artist) != TextView::npos) return artist;
-  return {};
+  const auto occurs = [fileName](const Text& artist) {
+    return !artist.empty() && fileName.find(artist) != TextView::npos;
+  };
+  const auto last = std::find_if(artists_.rbegin(), artists_.rend(), occurs);
+  return last == artists_.rend() ? TextView() : TextView(*last);
 }
 
 TextView TitleText::lastOfMany(TextView fileName) const {
