@@ -6,7 +6,6 @@
 #include "base/move_names.h"
 #include "base/new_music_lists.h"
 #include "base/tag_values.h"
-#include "core/paths.h"
 #include "platform/file_error.h"
 
 namespace velmora::base {
@@ -113,12 +112,13 @@ void MoveCollect::makeFolder(const Text& folder) {
 
 void MoveCollect::add(const std::vector<int>& rows, const Text& folder) {
   planned_.resize(static_cast<std::size_t>(table_.rows()) + 1);
+  PlannedMoves moves{folder, {}};
   for (const int row : rows) {
     if (!table_.hasRow(row) || planned_[static_cast<std::size_t>(row)]) continue;
     planned_[static_cast<std::size_t>(row)] = true;
-    const Text& from = table_.path(row);
-    moves_.push_back({row, from, folder + Text(core::paths::fileName(from))});
+    moves.rows.push_back(row);
   }
+  if (!moves.rows.empty()) moves_.push_back(std::move(moves));
 }
 
 }  // namespace velmora::base

@@ -10,11 +10,10 @@
 
 namespace velmora::base {
 
-/// One file on its way into the base.
-struct PlannedMove {
-  int row;  ///< of the file while nothing has been moved yet
-  Text from;
-  Text to;
+/// Files on their way into one folder of the base.
+struct PlannedMoves {
+  Text folder;            ///< with a separator at its end
+  std::vector<int> rows;  ///< of the files while nothing has been moved yet
 };
 
 /// The first half of a MOVE: goes through what is selected in the New Music Window, makes the folders of the
@@ -37,7 +36,7 @@ class MoveCollect {
   void folderOfMusic(const Text& genre);
 
   /// In the order in which they are to be moved.
-  std::vector<PlannedMove> take() { return std::move(moves_); }
+  std::vector<PlannedMoves> take() { return std::move(moves_); }
 
  private:
   struct Group {
@@ -54,7 +53,7 @@ class MoveCollect {
   const ui::Form2& form2_;
   Folders& folders_;
   NewMusicRows rows_;
-  std::vector<PlannedMove> moves_;
+  std::vector<PlannedMoves> moves_;
   std::vector<bool> planned_;  // by row
   std::vector<Text> missing_;  // folders that could not be made
 };

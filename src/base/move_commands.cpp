@@ -9,6 +9,7 @@
 #include "base/move_names.h"
 #include "base/music_undo_group.h"
 #include "core/number_text.h"
+#include "core/paths.h"
 #include "core/text.h"
 #include "list/file_sizes.h"
 #include "list/quiet_lists.h"
@@ -101,7 +102,7 @@ void MoveCommands::run(MoveColumn column, const Text& caption,
     parts_.data.beginChange();
     AfterMove after({parts_.table, parts_.windows, parts_.base, parts_.lists});
     Text target;
-    std::vector<PlannedMove> moves;
+    std::vector<PlannedMoves> moves;
     {
       const list::QuietLists quietly(parts_.table);
       MoveCollect collect(parts_.table, form2_, parts_.folders);
@@ -117,12 +118,12 @@ void MoveCommands::run(MoveColumn column, const Text& caption,
   parts_.summary.moze();
 }
 
-void MoveCommands::apply(const std::vector<PlannedMove>& moves) {
+void MoveCommands::apply(const std::vector<PlannedMoves>& plan) {
   double bytes = 0;
   try {
     const review::ArtistBook::Batch artists(parts_.artists);
     const review::RowKeeper::Batch rows(parts_.rows);
-    moveAll(moves, bytes);
+    moveAll(plan, bytes);
   } catch (const platform::FileError&) {
     // Nothing more goes when it cannot be journalled.
   }
@@ -134,21 +135,26 @@ void MoveCommands::apply(const std::vector<PlannedMove>& moves) {
   parts_.data.SaveID3nizove(table);
 }
 
-void MoveCommands::moveAll(const std::vector<PlannedMove>& moves, double& bytes) {
+void MoveCommands::moveAll(const std::vector<PlannedMoves>& plan, double& bytes) {
   core::TrackTable& table = parts_.table;
   review::RemovedRows removed(table.rows());
-  const auto count = static_cast<double>(moves.size());
+  std::size_t count = 0;
+  for (const PlannedMoves& moves : plan) count += moves.rows.size();
   double done = 0;
-  for (const PlannedMove& move : moves) {
-    parts_.progress.UpdateProgress(++done / count * 100);
-    if (table.Stop) return;
-    const double size = list::bytesOf(parts_.files, move.from);
-    const int rows = table.rows();
-    const review::MoveResult result = parts_.mover.moveFile(move.from, move.to, removed.now(move.row));
-    if (result == review::MoveResult::Abort) return;
-    if (table.rows() == rows) continue;
-    removed.remove(move.row);
-    bytes += size;
+  for (const PlannedMoves& moves : plan) {
+    for (const int planned : moves.rows) {
+      parts_.progress.UpdateProgress(++done / static_cast<double>(count) * 100);
+      if (table.Stop) return;
+      const int rows = table.rows();
+      const int row = removed.now(planned);
+      const Text from = table.path(row);
+      const double size = list::bytesOf(parts_.files, from);
+      const Text to = moves.folder + Text(core::paths::fileName(from));
+      if (parts_.mover.moveFile(from, to, row) == review::MoveResult::Abort) return;
+      if (table.rows() == rows) continue;
+      removed.remove(planned);
+      bytes += size;
+    }
   }
 }
 

@@ -191,8 +191,8 @@ void NewMusicLists::List3Click() {
   }
   showSongs(rows);
   if (albums.size() != 1 || form2_.List3.selectedIndexes().front() < firstAlbum || rows.empty()) return;
-  form2_.Text3.setText(Text(TagAlbum(table, rows.front())));
-  form2_.Text5.setText(Text(TagYear(table, rows.front())));
+  form2_.Text3.setText(TagAlbum(table, rows.front()));
+  form2_.Text5.setText(TagYear(table, rows.front()));
 }
 
 void NewMusicLists::List8Click() {
@@ -220,10 +220,10 @@ void NewMusicLists::List4Click() {
   const int row = form2_.List4.ItemData(index);
   form2_.Text4.setText(table.track(row).pesma.text());
   form2_.Text2.setText(table.track(row).pevac.text());
-  if (form2_.genreByTag.chosen()) form2_.Combo1.setText(Text(TagGenre(table, row)));
+  if (form2_.genreByTag.chosen()) form2_.Combo1.setText(TagGenre(table, row));
   if (form2_.albumByTag.chosen()) {
-    form2_.Text3.setText(Text(TagAlbum(table, row)));
-    form2_.Text5.setText(Text(TagYear(table, row)));
+    form2_.Text3.setText(TagAlbum(table, row));
+    form2_.Text5.setText(TagYear(table, row));
   }
   form2_.statusLabel.setText(table.path(row));
   if (!quiet() && table.aktivniprozor == newMusicWindow) parts_.mirror.showSong(row);

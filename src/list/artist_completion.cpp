@@ -37,7 +37,7 @@ void ArtistCompletion::List3Click() {
   Text text(core::trim(form1_.List3.List(index)));
   if (!artistListView()) text.append(u" - ").append(core::trim(table_.track(table_.currentRow).pesma.text()));
   const QuietLists quietly(table_);
-  box().setText(std::move(text));
+  box().setText(text);
   closeOffer();
 }
 

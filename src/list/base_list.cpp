@@ -6,8 +6,8 @@
 
 namespace velmora::list {
 
-void BaseList::refresh(const Text& root, Text caption) {
-  parts_.progress.setText(std::move(caption));
+void BaseList::refresh(const Text& root, TextView caption) {
+  parts_.progress.setText(caption);
   std::vector<Text> found;
   FolderScan scan(parts_, FolderScan::Mode::BaseRefresh);
   scan.onMusic = [&found](Text path) { found.push_back(std::move(path)); };

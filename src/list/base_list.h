@@ -12,7 +12,7 @@ class BaseList {
 
   /// Makes the list anew by a walk over `root` and saves it as bazaniz.txt. `caption` is what the progress
   /// window shows first. A walk that Stop ended, or a root that cannot be read, leaves the list as it was.
-  void refresh(const Text& root, Text caption);
+  void refresh(const Text& root, TextView caption);
 
  private:
   FolderScan::Parts parts_;

@@ -30,8 +30,8 @@ void NameBatches::fixSyntax() {
   });
 }
 
-void NameBatches::fixInBox(Text name) {
-  parts_.form1.Text1.setText(std::move(name));
+void NameBatches::fixInBox(TextView name) {
+  parts_.form1.Text1.setText(name);
   parts_.fixer.fixTextBox();
 }
 
@@ -68,7 +68,7 @@ bool NameBatches::removeNumber(int row, std::initializer_list<int> lengths, ui::
     if (!removed.digits.empty()) break;
   }
   if (removed.digits.empty()) return true;
-  fixInBox(std::move(removed.name));
+  fixInBox(removed.name);
   if (parts_.form1.Text1.text() != name) {
     const RenameResult result = parts_.renamer.PromeniIme(row, true);
     parts_.artists.DodajAutora(parts_.table.track(row).pevac.text());
@@ -120,9 +120,9 @@ void NameBatches::replaceArtistTitle() {
 
 void NameBatches::fromTags() {
   parts_.frame.run(u"Update Filenames From ID3 Tags ...", parts_.frame.selectedRows(), [this](int row) {
-    Text name = nameFromTag(row);
+    const Text name = nameFromTag(row);
     if (name == u" - ") return true;
-    parts_.form1.Text1.setText(std::move(name));
+    parts_.form1.Text1.setText(name);
     return renameFromBox(row);
   });
 }

@@ -51,7 +51,7 @@ class NameBatches {
   /// Gives the row the name in the box and counts its artist; false after Abort.
   bool renameFromBox(int row);
   /// Puts a name in the box and has it fixed there.
-  void fixInBox(Text name);
+  void fixInBox(TextView name);
   bool removeNumber(int row, std::initializer_list<int> lengths, ui::TextBox& tagBox);
   void insertNumber(int row, const Text& digits, ui::TextBox& tagBox);
   void findFirstDash(int row);

@@ -74,7 +74,7 @@ void Renamer::cleanBox() {
   // A tag may hold what no record of ours can carry.
   for (char16_t& character : name)
     if (character < u' ') character = u' ';
-  parts_.form1.Text1.setText(Text(core::trim(name)));
+  parts_.form1.Text1.setText(core::trim(name));
 }
 
 Text Renamer::pathFromBox(const Text& oldPath) const {
@@ -140,8 +140,8 @@ void Renamer::followWithTags(int row, const OldName& old) {
   tags::OpenSong song(parts_.files, path);
   parts_.panel.info(song, row);
   parts_.tagWriter.write(song, first, second, [this, &track] {
-    parts_.form1.tags.title.setText(Text(core::trim(track.pesma.text())));
-    parts_.form1.tags.artist.setText(Text(core::trim(track.pevac.text())));
+    parts_.form1.tags.title.setText(core::trim(track.pesma.text()));
+    parts_.form1.tags.artist.setText(core::trim(track.pevac.text()));
   });
 }
 

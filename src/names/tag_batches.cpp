@@ -21,8 +21,8 @@ void TagBatches::fromNames() {
                      parts_.panel.info(song, row);
                      parts_.eachTagWriter.write(song, panel.writeID3v1.checked(), panel.writeID3v2.checked(),
                                                 [&panel, &track] {
-                                                  panel.artist.setText(Text(core::trim(track.pevac.text())));
-                                                  panel.title.setText(Text(core::trim(track.pesma.text())));
+                                                  panel.artist.setText(core::trim(track.pevac.text()));
+                                                  panel.title.setText(core::trim(track.pesma.text()));
                                                 });
                      return true;
                    });

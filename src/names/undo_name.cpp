@@ -45,7 +45,7 @@ void UndoName::undoName() {
   std::erase_if(rows, [&](int row) { return !earlier.contains(parts_.table.path(row)); });
   parts_.frame.run(u"Renaming ...", rows, [this, &earlier](int row) {
     const Text& path = earlier.at(parts_.table.path(row));
-    parts_.form1.Text1.setText(Text(core::paths::bareName(path)));
+    parts_.form1.Text1.setText(core::paths::bareName(path));
     const RenameResult result = parts_.renamer.PromeniIme(row, true);
     parts_.artists.DodajAutora(parts_.table.track(row).pevac.text());
     return result != RenameResult::Abort;

@@ -70,23 +70,24 @@ Descriptor createFile(const Bytes& path, int flags) {
 }
 
 /// A file of the program's own, made where it is missing; a dangling link is followed to the file that it
-/// stands for. The journal is opened for each of its lines, so the look at it is the cheap one behind the
-/// opening: nobody puts a device in the place of such a file.
-Descriptor openOwn(const Bytes& path, int flags, std::uint64_t& size) {
+/// stands for. The look at what it is may come behind the opening, where it costs least: nobody puts a device
+/// in the place of such a file.
+Descriptor openOwn(const Bytes& path, int flags) {
   Descriptor file(
       untilDone([&] { return ::open(path.c_str(), flags | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666); }));
-  struct stat status;
   if (!file.valid() && errno == ENXIO) throw FileError(FileError::pathAccess);  // a pipe
-  if (!file.valid() || ::fstat(file.get(), &status) != 0) throwErrno(path);
-  requireUsable(status, flags);
-  size = static_cast<std::uint64_t>(status.st_size);
+  if (!file.valid()) throwErrno(path);
   return file;
 }
 
-std::uint64_t sizeOf(const Descriptor& file, const Bytes& path) {
+struct stat statusOf(const Descriptor& file, const Bytes& path) {
   struct stat status;
   if (::fstat(file.get(), &status) != 0) throwErrno(path);
-  return static_cast<std::uint64_t>(status.st_size);
+  return status;
+}
+
+std::uint64_t sizeOf(const Descriptor& file, const Bytes& path) {
+  return static_cast<std::uint64_t>(statusOf(file, path).st_size);
 }
 
 EntryKind kindOf(mode_t mode) {
@@ -199,8 +200,10 @@ Bytes PosixFiles::readAll(const Text& path) {
 
 void PosixFiles::writeAll(const Text& path, BytesView bytes) {
   const Bytes native = nativePath(path);
-  std::uint64_t oldSize = 0;
-  Descriptor file = openOwn(native, O_WRONLY, oldSize);
+  Descriptor file = openOwn(native, O_WRONLY);
+  const struct stat before = statusOf(file, native);
+  requireUsable(before, O_WRONLY);
+  const auto oldSize = static_cast<std::uint64_t>(before.st_size);
   // What goes beyond the old content comes first, since that alone needs room: a full disk leaves the old
   // content as it was.
   const std::size_t inPlace = std::min<std::size_t>(bytes.size(), oldSize);
@@ -216,13 +219,18 @@ void PosixFiles::writeAll(const Text& path, BytesView bytes) {
 
 void PosixFiles::append(const Text& path, BytesView bytes) {
   const Bytes native = nativePath(path);
-  std::uint64_t oldSize = 0;
-  Descriptor file = openOwn(native, O_WRONLY | O_APPEND, oldSize);
+  Descriptor file = openOwn(native, O_WRONLY | O_APPEND);
+  // The journal is opened for each of its lines, and what it is does not change from one to the next.
+  if (native != appendedLast_) requireUsable(statusOf(file, native), O_WRONLY);
+  appendedLast_ = native;
   const ssize_t count = untilDone([&] { return ::write(file.get(), bytes.data(), bytes.size()); });
   if (count != static_cast<ssize_t>(bytes.size())) {
     // A record that did not fit must not leave its first half in front of the next one.
     const int code = count < 0 ? errno : ENOSPC;
-    [[maybe_unused]] const int cut = ::ftruncate(file.get(), static_cast<off_t>(oldSize));
+    if (count > 0) {
+      const off_t oldSize = ::lseek(file.get(), 0, SEEK_CUR) - count;
+      [[maybe_unused]] const int cut = ::ftruncate(file.get(), oldSize);
+    }
     throwFileError(code, native);
   }
   if (const int code = file.close()) throwFileError(code, native);

@@ -27,6 +27,9 @@ class PosixFiles final : public platform::Files {
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;
   std::vector<Text> volumes() override;
+
+ private:
+  Bytes appendedLast_;  // a file that bytes may be added to, as a look has told
 };
 
 }  // namespace velmora::system

@@ -112,7 +112,7 @@ void FilePanel::showFile(SongBytes& song, const Text& path) {
     if (song.size() > 0) showHeader(song);
     return;
   }
-  form1_.Text1.setText(Text(core::paths::bareName(path)));
+  form1_.Text1.setText(core::paths::bareName(path));
   if (durationOf) showLength(durationOf(path));
 }
 
@@ -160,7 +160,7 @@ void FilePanel::showTags() {
 
 void FilePanel::showName(int row) {
   const core::Track& track = table_.track(row);
-  form1_.Text1.setText(Text(core::paths::bareName(track.nizdes.text())));
+  form1_.Text1.setText(core::paths::bareName(track.nizdes.text()));
   form1_.Text8.setText(track.pevac.text());
   form1_.Text5.setText(track.pesma.text());
 }

@@ -48,14 +48,13 @@ void cMP3ID3v1::setMP3File(const Text& path) {
   try {
     const auto file = files_.open(path, platform::OpenMode::Read);
     SongBytes song(*file);
-    read(song, path);
+    read(song);
   } catch (platform::FileError& error) {
     rethrow(error);
   }
 }
 
-void cMP3ID3v1::read(SongBytes& song, const Text& path) {
-  path_ = path;
+void cMP3ID3v1::read(SongBytes& song) {
   reset();
   if (song.size() <= tagBytes) return;
   BytesView tag = song.end(tagBytes);

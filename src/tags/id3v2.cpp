@@ -53,15 +53,14 @@ void cMP3ID3v2::setMP3File(const Text& path) {
   try {
     const auto file = files_.open(path, platform::OpenMode::Read);
     SongBytes song(*file);
-    read(song, path);
+    read(song);
   } catch (platform::FileError& error) {
     error.source = u"velmora.cMP3ID3v1";  // the name of the other class, and it stays
     throw;
   }
 }
 
-void cMP3ID3v2::read(SongBytes& song, const Text& path) {
-  path_ = path;
+void cMP3ID3v2::read(SongBytes& song) {
   reset();
   const auto position = FindID3Position(song);
   if (!position) return;
@@ -115,7 +114,7 @@ Text cMP3ID3v2::TagText(BytesView frame, int index) const {
 void cMP3ID3v2::set(Property property, const Text& text) {
   values_[static_cast<std::size_t>(property)] = text;
   const PropertyFrame& frame = propertyFrames()[static_cast<std::size_t>(property)];
-  replaceFrame(frame.frame, Text(frame.before) + text);
+  replaceFrame(frame.frame, frame.before.empty() ? text : Text(frame.before) + text);
 }
 
 void cMP3ID3v2::setGenre(std::uint8_t code) {

@@ -21,8 +21,8 @@ class cMP3ID3v2 {
   /// Binds the file and reads its tag. Throws FileError when it cannot be opened; the file is bound even
   /// then, with no tag.
   void setMP3File(const Text& path);
-  /// The same for a file that is open already; `path` is what Update writes to.
-  void read(SongBytes& song, const Text& path);
+  /// Reads the tag of a song that is open already, which Update is then to be given.
+  void read(SongBytes& song);
   const Text& MP3File() const { return path_; }
 
   /// Whether a marker was found, of whatever version.

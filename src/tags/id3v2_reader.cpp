@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "core/code_page.h"
 #include "tags/genre.h"
 
 namespace velmora::tags {
@@ -14,6 +15,11 @@ namespace {
 constexpr std::size_t blockBytes = 4096;
 /// A body beyond this is no tag that anybody made.
 constexpr std::uint64_t largestBody = 256ULL * 1024 * 1024;
+constexpr std::size_t longBody = 300;  // bytes from which on a body is kept as it is
+
+bool printable(char byte) {
+  return byte >= 32 && byte <= 126;
+}
 
 Bytes MapFrameID(BytesView name) {
   static constexpr std::array<std::pair<BytesView, BytesView>, 8> names = {{{"TP1", "TPE1"},
@@ -107,11 +113,19 @@ std::optional<FrameReader::Found> FrameReader::next() {
 }
 
 Bytes CleanFrameText(BytesView body) {
-  if (body.size() >= 300) return Bytes(body);
+  if (body.size() >= longBody) return Bytes(body);
   Bytes clean;
   clean.reserve(body.size());
-  std::ranges::copy_if(body, std::back_inserter(clean), [](char byte) { return byte >= 32 && byte <= 126; });
+  std::ranges::copy_if(body, std::back_inserter(clean), printable);
   return clean;
+}
+
+Text frameText(BytesView body) {
+  if (body.size() >= longBody) return core::fromCodePage(body);
+  Text text;
+  text.reserve(body.size());
+  std::ranges::copy_if(body, std::back_inserter(text), printable);
+  return text;
 }
 
 GenreText parseGenre(TextView body) {

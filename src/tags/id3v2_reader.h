@@ -50,6 +50,8 @@ class FrameReader {
 
 /// A body under 300 bytes without all that is no printable ASCII; a longer one as it is.
 Bytes CleanFrameText(BytesView body);
+/// The same as text.
+Text frameText(BytesView body);
 
 /// What a TCON body says: "(17)" is code 17 and its name, "(17)Rock and Roll" the code and that name,
 /// "Rock" a name alone.

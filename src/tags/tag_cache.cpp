@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "core/code_page.h"
 #include "core/number_text.h"
 #include "platform/file_error.h"
 #include "tags/genre.h"
@@ -38,7 +37,7 @@ Id3v2Values readId3v2(SongBytes& song) {
   while (const auto frame = frames.next()) {
     Text* column = values.column(frame->name);
     if (!column) continue;
-    Text body = core::fromCodePage(CleanFrameText(song.at(frame->offset, frame->length)));
+    Text body = frameText(song.at(frame->offset, frame->length));
     *column = column == &values.genre ? parseGenre(body).name : std::move(body);
   }
   if (values.track == u"0") values.track.clear();
@@ -89,7 +88,7 @@ bool TagCache::read(SongBytes& song, int row) {
     // Both are read before either is stored. The start comes first, since a small song is then read at once.
     Id3v2Values second = readId3v2(song);
     cMP3ID3v1 first(files_);
-    first.read(song, track.nizdes.text());
+    first.read(song);
     store(track, std::move(first));
     store(track, std::move(second));
     track.procitan = true;

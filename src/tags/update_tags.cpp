@@ -25,7 +25,7 @@ template <typename Tag>
 bool bind(Tag& tag, TextView version, const UpdateContext& context, OpenSong& song) {
   bool read = false;
   updateWithDialog(context, version, song, [&] {
-    tag.read(song.bytes(), song.path());
+    tag.read(song.bytes());
     read = true;
   });
   return read;

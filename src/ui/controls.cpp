@@ -1,18 +1,15 @@
 #include "ui/controls.h"
 
-#include <utility>
-
 namespace velmora::ui {
 
-void TextBox::setText(Text text) {
-  const int end = static_cast<int>(text.size());
-  type(std::move(text), end);
+void TextBox::setText(TextView text) {
+  type(text, static_cast<int>(text.size()));
 }
 
-void TextBox::type(Text text, int cursor) {
+void TextBox::type(TextView text, int cursor) {
   const bool differs = text != text_;
   if (!differs && cursor == cursor_) return;
-  text_ = std::move(text);
+  text_ = text;
   cursor_ = cursor;
   changed();
   if (differs && onChange) onChange();

@@ -49,7 +49,7 @@ class Frame : public Control {};
 class Label : public Control {
  public:
   const Text& text() const { return text_; }
-  void setText(Text text) { assign(text_, std::move(text)); }
+  void setText(TextView text) { assign(text_, text); }
   /// Colour of the text; none leaves it to the view.
   const std::optional<Colour>& colour() const { return colour_; }
   void setColour(std::optional<Colour> colour) { assign(colour_, colour); }
@@ -89,9 +89,9 @@ class TextBox : public Control {
 
   const Text& text() const { return text_; }
   /// Puts the cursor behind the text and raises onChange when the text differs.
-  void setText(Text text);
+  void setText(TextView text);
   /// As the user types: the text and where the cursor stands after it.
-  void type(Text text, int cursor);
+  void type(TextView text, int cursor);
   int cursor() const { return cursor_; }
   void setCursor(int cursor) { assign(cursor_, cursor); }
 
@@ -149,8 +149,8 @@ class ComboBox : public Control {
   std::function<void()> onChange;
 
   const Text& text() const { return text_; }
-  void setText(Text text) {
-    if (assign(text_, std::move(text)) && onChange) onChange();
+  void setText(TextView text) {
+    if (assign(text_, text) && onChange) onChange();
   }
   const std::vector<ComboRow>& rows() const { return rows_; }
   void setRows(std::vector<ComboRow> rows) { assign(rows_, std::move(rows)); }

@@ -134,7 +134,7 @@ OptionStore::OptionStore(core::Settings& settings, Windows& windows)
     : settings_(settings), windows_(windows) {
   for (std::size_t i = 0; i < extensionKeys.size(); ++i) {
     Extension& extension = windows_.form5.extensions[i];
-    extension.text.setText(Text(extensionKeys[i].atDesign));
+    extension.text.setText(extensionKeys[i].atDesign);
     extension.check.setChecked(!extensionKeys[i].atDesign.empty());
   }
   windows_.form5.refreshOldMusicList.setChecked(true);

@@ -17,7 +17,7 @@ void toNormal(Window& window) {
 Progress::Progress(core::TrackTable& table, Windows& windows, platform::Desktop& desktop)
     : table_(table), windows_(windows), desktop_(desktop) {}
 
-void Progress::show(Text text) {
+void Progress::show(TextView text) {
   // Disabled before the pump, so that a second click that waits in the queue starts nothing.
   windows_.form1.setEnabled(false);
   if (!running_) {
@@ -25,7 +25,7 @@ void Progress::show(Text text) {
     table_.Stop = false;
     windows_.dialog1.bar.setPercent(0);
   }
-  windows_.dialog1.text.setText(std::move(text));
+  windows_.dialog1.text.setText(text);
   pump();
   if (windows_.form1.state() != WindowState::Minimised) windows_.dialog1.show();
 }

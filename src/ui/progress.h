@@ -17,9 +17,9 @@ class Progress {
 
   /// Disables the Processing Window, pumps events, and shows Dialog1 with `text` unless the Processing Window
   /// is minimised. The first call of a run clears Stop and empties the bar.
-  void show(Text text);
+  void show(TextView text);
   /// Changes the text of a progress window that is shown.
-  void setText(Text text) { windows_.dialog1.text.setText(std::move(text)); }
+  void setText(TextView text) { windows_.dialog1.text.setText(text); }
   /// Moves the bar to a percentage. Pumps events first when 3 seconds have passed since the last pump, so it
   /// may be called for every row.
   void UpdateProgress(double percent);

@@ -65,7 +65,7 @@ void Tips::load(const Text& path) {
   } catch (const platform::FileError&) {
     // Told in the window, below.
   }
-  if (tips_.empty()) return window_.tip.setText(Text(missingFile));
+  if (tips_.empty()) return window_.tip.setText(missingFile);
   const int count = static_cast<int>(tips_.size());
   index_ = std::clamp(static_cast<int>(count * desktop_.random()) + 1, 1, count);
   showTip();

@@ -23,7 +23,7 @@ struct ID3v2Read : TagFixture {
     test::MemoryFile file(bytes);
     SongBytes song(file);
     cMP3ID3v2 tag(files);
-    tag.read(song, u"song.mp3");
+    tag.read(song);
     return tag;
   }
   Text titleOf(const Bytes& bytes) { return tagOf(bytes).Title(); }
