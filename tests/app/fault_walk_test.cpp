@@ -1,6 +1,7 @@
 // A short script of commands with one fault of the file system, at every operation in turn.
 
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 
 #include "core/text.h"
@@ -83,6 +84,7 @@ class Walk : public test::RepairHouse {
       EXPECT_EQ(tagsOf(core::fromBytes(before_[i])), tagsBefore_[i]);
   }
   const std::vector<std::string>& namesBefore() const { return before_; }
+  Text music() const { return program.musicFolder(); }
 
  private:
   std::vector<std::string> before_;
@@ -213,6 +215,24 @@ TEST(BaseFaultWalk, WhateverFailsInTheUndoOfAMoveIsBroughtBackByTryingAgain) {
 TEST(BaseFaultWalk, WhateverFailsInAChangeOfTheBaseNoFileIsLost) {
   sweep<BaseScript>(nullptr, &BaseScript::changes, stride(), nullptr,
                     [](BaseScript& walk) { walk.expectNothingLost(); });
+}
+
+/// With a folder in the place of the journal no line of it can be written.
+template <typename House>
+void expectUntouched(void (House::*script)()) {
+  House walk;
+  walk.start();
+  std::filesystem::remove(walk.program.folder.native(u"program/UndoData.txt"));
+  walk.program.folder.mkdir(u"program/UndoData.txt");
+  const TreeSnapshot before = TreeSnapshot::of(walk.music());
+  (walk.*script)();
+  EXPECT_EQ(TreeSnapshot::of(walk.music()), before);
+  walk.expectNothingLost();
+}
+
+TEST(FaultWalk, WhatCouldNotBeUndoneIsNotDone) {
+  expectUntouched(&Walk::commands);
+  expectUntouched(&BaseScript::moves);
 }
 
 }  // namespace
