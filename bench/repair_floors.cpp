@@ -61,6 +61,11 @@ bool rewriteTags(const std::string& path) {
   return found;
 }
 
+/// Files that a yardstick has made are deleted with the used copy of the music, at the end of all rounds.
+void leaveWithMusic(const Scene& scene, const std::string& folder) {
+  std::filesystem::rename(folder, scene.music + "/made by a yardstick");
+}
+
 }  // namespace
 
 Measured floorOfFix(const Scene& scene) {
@@ -107,7 +112,7 @@ Measured floorOfDelete(const Scene& scene) {
     rename(path.c_str(), (trash + "/files/" + name).c_str());
   }
   const Measured result = measured(watch, number, 0);
-  std::filesystem::remove_all(trash);
+  leaveWithMusic(scene, trash);
   return result;
 }
 
@@ -131,7 +136,7 @@ Measured floorOfMove(const Scene& scene) {
     appendLine(journal, moveLineBytes);
   }
   const Measured result = measured(watch, static_cast<int>(moves.size()), 0);
-  std::filesystem::remove_all(base);
+  leaveWithMusic(scene, base);
   std::filesystem::remove(journal);
   return result;
 }
