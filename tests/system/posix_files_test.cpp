@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fcntl.h>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
@@ -92,19 +93,28 @@ TEST_F(PosixFilesTest, AnOpenFileReadsAndWritesAtOffsets) {
 TEST_F(PosixFilesTest, ToReadAFileDoesNotCountAsAnAccess) {
   const Text path = folder.write(u"a", "0123456789");
   const Bytes native = folder.native(u"a");
-  const timespec longAgo[] = {{1, 0}, {2, 0}};  // older than a day and than the last change
-  ASSERT_EQ(::utimensat(AT_FDCWD, native.c_str(), longAgo, 0), 0);
   std::array<char, 8> buffer;
-  files.open(path, OpenMode::Read)->readAt(0, buffer);
-  files.readAll(path);
-  struct stat status;
-  ASSERT_EQ(::stat(native.c_str(), &status), 0);
-  EXPECT_EQ(status.st_atime, 1);
+  const auto counts = [&](const std::function<void()>& read) {
+    const timespec longAgo[] = {{1, 0}, {2, 0}};  // older than a day and than the last change
+    EXPECT_EQ(::utimensat(AT_FDCWD, native.c_str(), longAgo, 0), 0);
+    read();
+    struct stat status;
+    EXPECT_EQ(::stat(native.c_str(), &status), 0);
+    return status.st_atime != 1;
+  };
+  const auto readPlainly = [&] {
+    const Descriptor file(::open(native.c_str(), O_RDONLY | O_NOATIME));
+    EXPECT_GT(::read(file.get(), buffer.data(), buffer.size()), 0);
+  };
+  if (counts(readPlainly)) GTEST_SKIP() << "this file system counts every access";
+  EXPECT_FALSE(counts([&] { files.open(path, OpenMode::Read)->readAt(0, buffer); }));
+  EXPECT_FALSE(counts([&] { files.readAll(path); }));
+}
 
-  // Only the owner may ask for that; the file of another is read all the same.
+TEST_F(PosixFilesTest, AFileOfAnotherUserIsReadToo) {
   const uid_t user = ::geteuid();
   constexpr uid_t nobody = 65534;
-  ASSERT_EQ(::seteuid(user == 0 ? nobody : user), 0);
+  if (user == 0 && ::seteuid(nobody) != 0) GTEST_SKIP() << "no other user to be had";
   EXPECT_EQ(errorNumber([&] { files.readAll(u"/etc/passwd"); }), 0);
   ASSERT_EQ(::seteuid(user), 0);
 }
