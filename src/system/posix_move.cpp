@@ -111,7 +111,11 @@ void keepLead(const Bytes& from, const Bytes& to) {
     UnfinishedCopy link(temporaryBeside(to));
     if (::symlink(written.c_str(), link.path().c_str()) != 0) return;
     if (!leadsThere(link.path())) continue;
-    if (::rename(link.path().c_str(), to.c_str()) == 0) link.keep();
+    // Exchanged, so that a file that another program has put there this moment can be given back its place.
+    const auto exchange = [&] {
+      return ::renameat2(AT_FDCWD, link.path().c_str(), AT_FDCWD, to.c_str(), RENAME_EXCHANGE) == 0;
+    };
+    if (exchange() && linkText(link.path()) != text) exchange();
     return;
   }
 }
