@@ -5,6 +5,7 @@
 #include <fstream>
 #include <sstream>
 #include <unistd.h>
+#include <utility>
 
 #include "core/text.h"
 
@@ -15,6 +16,12 @@ namespace {
 /// File systems without a device that hold files of the user's all the same.
 constexpr std::array<BytesView, 9> withoutDevice = {"nfs", "nfs4",  "cifs",    "smb3",    "9p",
                                                     "zfs", "btrfs", "overlay", "virtiofs"};
+
+/// File systems on another machine.
+bool isRemote(BytesView type) {
+  constexpr std::array<BytesView, 4> remote = {"nfs", "nfs4", "cifs", "smb3"};
+  return std::ranges::find(remote, type) != remote.end();
+}
 
 bool holdsFiles(BytesView device, BytesView type) {
   if (type == "squashfs") return false;
@@ -48,14 +55,16 @@ Bytes unescaped(BytesView name) {
 
 }  // namespace
 
-std::vector<Bytes> mountPointsIn(BytesView mounts) {
+std::vector<Bytes> mountPointsIn(BytesView mounts, const std::function<bool(const Bytes& point)>& readable) {
   std::vector<Bytes> points;
   std::istringstream lines{Bytes(mounts)};
   Bytes line;
   while (std::getline(lines, line)) {
     std::istringstream fields(line);
     Bytes device, point, type;
-    if (fields >> device >> point >> type && holdsFiles(device, type)) points.push_back(unescaped(point));
+    if (!(fields >> device >> point >> type) || !holdsFiles(device, type)) continue;
+    point = unescaped(point);
+    if (isRemote(type) || readable(point)) points.push_back(std::move(point));
   }
   std::ranges::sort(points);
   points.erase(std::unique(points.begin(), points.end()), points.end());
@@ -66,9 +75,9 @@ std::vector<Text> mountPoints() {
   std::ifstream file("/proc/self/mounts");
   std::stringstream content;
   content << file.rdbuf();
+  const auto readable = [](const Bytes& point) { return ::access(point.c_str(), R_OK | X_OK) == 0; };
   std::vector<Text> points;
-  for (const Bytes& point : mountPointsIn(content.str()))
-    if (::access(point.c_str(), R_OK | X_OK) == 0) points.push_back(core::fromBytes(point));
+  for (const Bytes& point : mountPointsIn(content.str(), readable)) points.push_back(core::fromBytes(point));
   return points;
 }
 

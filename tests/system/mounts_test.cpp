@@ -22,12 +22,16 @@ TEST(Mounts, OnlyVolumesThatHoldFilesAreNamed) {
       "/dev/loop3 /snap/core squashfs ro 0 0\n"
       "/dev/sda2 / ext4 rw 0 0\n"
       "torn line\n";
-  EXPECT_THAT(system::mountPointsIn(mounts),
+  const auto any = [](const Bytes&) { return true; };
+  const auto none = [](const Bytes&) { return false; };
+  EXPECT_THAT(system::mountPointsIn(mounts, any),
               ElementsAre("/", "/media/my disk", "/net/music", "/run/user/1/phone"));
-  EXPECT_THAT(system::mountPointsIn("/dev/sda1 /odd\\09 ext4\n/dev/sda1 /end\\04 ext4\n"),
+  EXPECT_THAT(system::mountPointsIn("/dev/sda1 /odd\\09 ext4\n/dev/sda1 /end\\04 ext4\n", any),
               ElementsAre("/end\\04", "/odd\\09"))
       << "what is no character's number stays as it is";
-  EXPECT_THAT(system::mountPointsIn(""), IsEmpty());
+  EXPECT_THAT(system::mountPointsIn(mounts, none), ElementsAre("/net/music"))
+      << "what may never answer is not asked";
+  EXPECT_THAT(system::mountPointsIn("", any), IsEmpty());
 }
 
 TEST(Mounts, TheMachinesOwnAreFolders) {
