@@ -9,7 +9,7 @@
 
 #include "bench/headless.h"
 #include "core/text.h"
-#include "review/undo_journal.h"
+#include "journal/undo_journal.h"
 
 namespace velmora::bench {
 namespace {
@@ -92,7 +92,7 @@ Measured lastMarker(const Scene& scene) {
   system::PosixFiles files;
   core::Settings settings(files, core::fromBytes(scene.state + "/Settings.ini"));
   settings.set(u"vrsta", u" 0");
-  const review::UndoJournal journal(files, settings, core::fromBytes(path));
+  const journal::UndoJournal journal(files, settings, core::fromBytes(path));
   const StopWatch watch;
   const std::string kind = journal.lastUndoMarker();
   const Measured result = measured(watch, 0, 0);

@@ -7,19 +7,19 @@
 #include "base/folder_commands.h"
 #include "base/folders.h"
 #include "base/last_position.h"
-#include "base/move_commands.h"
-#include "base/move_summary.h"
-#include "base/name_commands.h"
 #include "base/new_folders.h"
-#include "base/new_music_lists.h"
-#include "base/new_music_mirror.h"
-#include "base/new_music_state.h"
-#include "base/new_music_undo.h"
-#include "base/tag_scan.h"
 #include "base/trash_files.h"
-#include "base/window_snapshot.h"
 #include "base/year_filter.h"
-#include "review/row_mover.h"
+#include "newmusic/move_commands.h"
+#include "newmusic/move_summary.h"
+#include "newmusic/name_commands.h"
+#include "newmusic/new_music_lists.h"
+#include "newmusic/new_music_mirror.h"
+#include "newmusic/new_music_state.h"
+#include "newmusic/new_music_undo.h"
+#include "newmusic/tag_scan.h"
+#include "newmusic/window_snapshot.h"
+#include "rows/row_mover.h"
 
 namespace velmora::app {
 
@@ -35,10 +35,10 @@ struct BaseRoom {
     core::Settings& settings;
     core::DataFolder& data;
     ui::Progress& progress;
-    player::FileHolder& player;
+    platform::FileHolder& player;
     tags::FilePanel& panel;
-    review::UndoJournal& journal;
-    review::ArtistBook& artists;
+    journal::UndoJournal& journal;
+    rows::ArtistBook& artists;
     RepairRoom& repair;
   };
   explicit BaseRoom(const Ground& ground);
@@ -54,18 +54,18 @@ struct BaseRoom {
   base::FolderCommands folderCommands;
 
   // The new music.
-  base::MoveSummary summary;
-  base::NewMusicMirror mirror;
-  base::NewMusicLists newMusic;
-  base::NewMusicState state;
-  base::TagScan tagScan;
+  newmusic::MoveSummary summary;
+  newmusic::NewMusicMirror mirror;
+  newmusic::NewMusicLists newMusic;
+  newmusic::NewMusicState state;
+  newmusic::TagScan tagScan;
 
   // The road from the one to the other, and back.
-  base::WindowSnapshot snapshot;
-  review::RowMover rowMover;
-  base::MoveCommands moves;
-  base::NameCommands names;
-  base::NewMusicUndo undo;
+  newmusic::WindowSnapshot snapshot;
+  rows::RowMover rowMover;
+  newmusic::MoveCommands moves;
+  newmusic::NameCommands names;
+  newmusic::NewMusicUndo undo;
 };
 
 }  // namespace velmora::app

@@ -7,8 +7,8 @@
 #include "base/base_state.h"
 #include "core/number_text.h"
 #include "core/paths.h"
-#include "list/quiet_lists.h"
 #include "tags/genre_rows.h"
+#include "ui/quiet_lists.h"
 #include "ui/tips.h"
 
 namespace velmora::app {
@@ -35,7 +35,7 @@ void BaseWindow::loadOnce() {
   guarded([&] { parts_.lists.IzlistajBazu(); });
   guarded([&] { placeWindow(); });
   guarded([&] {
-    const list::QuietLists quiet(parts_.table);
+    const ui::QuietLists quiet(parts_.table);
     base::restoreLists(form3, parts_.table, parts_.settings.get(u"stanje1"));
   });
   parts_.table.puniliste = 0;

@@ -6,8 +6,8 @@
 #include "app/work.h"
 #include "core/settings.h"
 #include "core/track_table.h"
-#include "list/closing_step.h"
 #include "platform/dialogs.h"
+#include "ui/closing_step.h"
 #include "ui/windows.h"
 
 namespace velmora::app {
@@ -20,7 +20,7 @@ class FrontWindow {
     core::Settings& settings;
     platform::Dialogs& dialogs;
     ui::Windows& windows;
-    list::ClosingStep& closing;
+    ui::ClosingStep& closing;
     BaseWindow& base;
     NewMusicWindow& newMusic;
     Events& events;

@@ -17,19 +17,19 @@
 #include "core/data_folder.h"
 #include "core/settings.h"
 #include "core/track_table.h"
+#include "journal/undo_journal.h"
 #include "list/artist_completion.h"
-#include "list/closing_step.h"
+#include "list/dash_finder.h"
 #include "list/list_maker.h"
 #include "list/list_views.h"
 #include "list/other_files.h"
-#include "names/dash_finder.h"
 #include "player/preview_player.h"
-#include "review/artist_book.h"
-#include "review/undo_journal.h"
+#include "rows/artist_book.h"
 #include "tags/busy_file.h"
 #include "tags/file_panel.h"
 #include "tags/tag_cache.h"
 #include "tags/update_tags.h"
+#include "ui/closing_step.h"
 #include "ui/option_store.h"
 #include "ui/progress.h"
 #include "ui/tips.h"
@@ -71,10 +71,10 @@ struct House {
   player::PreviewPlayer player;
   tags::BusyFile busyFile;
   tags::TagWriter tagWriter;
-  review::UndoJournal journal;
-  review::ArtistBook artists;
-  names::DashFinder dashes;
-  list::ClosingStep closing;
+  journal::UndoJournal journal;
+  rows::ArtistBook artists;
+  list::DashFinder dashes;
+  ui::ClosingStep closing;
   list::ListMaker listMaker;
   list::ListViews listViews;
   list::OtherFiles otherFiles;

@@ -2,8 +2,8 @@
 
 #include "app/guarded.h"
 #include "core/number_text.h"
-#include "list/quiet_lists.h"
 #include "tags/genre_rows.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora::app {
 
@@ -37,7 +37,7 @@ void NewMusicWindow::load() {
   parts_.summary.forget();
   parts_.lists.listVolumes();
   guarded([&] {
-    const list::QuietLists quiet(table);
+    const ui::QuietLists quiet(table);
     parts_.lists.IzlistajVrste();
     parts_.state.restore(parts_.settings.get(u"stanje2"));
   });

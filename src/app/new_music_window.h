@@ -2,12 +2,12 @@
 
 #include "app/base_window.h"
 #include "app/shared_screen.h"
-#include "base/move_summary.h"
-#include "base/new_music_lists.h"
-#include "base/new_music_state.h"
-#include "base/new_music_undo.h"
 #include "core/settings.h"
 #include "core/track_table.h"
+#include "newmusic/move_summary.h"
+#include "newmusic/new_music_lists.h"
+#include "newmusic/new_music_state.h"
+#include "newmusic/new_music_undo.h"
 #include "ui/windows.h"
 
 namespace velmora::app {
@@ -19,10 +19,10 @@ class NewMusicWindow {
     core::TrackTable& table;
     core::Settings& settings;
     ui::Windows& windows;
-    base::NewMusicLists& lists;
-    base::NewMusicState& state;
-    base::MoveSummary& summary;
-    base::NewMusicUndo& undo;
+    newmusic::NewMusicLists& lists;
+    newmusic::NewMusicState& state;
+    newmusic::MoveSummary& summary;
+    newmusic::NewMusicUndo& undo;
     BaseWindow& base;
     SharedScreen& screen;
   };

@@ -1,34 +1,34 @@
 #pragma once
 
 #include "app/services.h"
+#include "batch/batch_frame.h"
+#include "batch/name_batches.h"
+#include "batch/renamer.h"
+#include "batch/tag_batches.h"
+#include "batch/undo_name.h"
 #include "core/data_folder.h"
 #include "core/settings.h"
 #include "core/track_table.h"
-#include "list/closing_step.h"
-#include "names/batch_frame.h"
-#include "names/name_batches.h"
-#include "names/renamer.h"
+#include "journal/undo_journal.h"
+#include "list/delete_files.h"
 #include "names/syntax_fixer.h"
-#include "names/tag_batches.h"
-#include "names/undo_name.h"
-#include "player/hand_over.h"
-#include "review/artist_book.h"
-#include "review/delete_files.h"
-#include "review/file_mover.h"
-#include "review/name_restorer.h"
-#include "review/replay.h"
-#include "review/row_keeper.h"
-#include "review/tag_restorer.h"
-#include "review/undo_commands.h"
-#include "review/undo_errors.h"
-#include "review/undo_journal.h"
+#include "platform/hand_over.h"
+#include "rows/artist_book.h"
+#include "rows/file_mover.h"
+#include "rows/row_keeper.h"
 #include "tags/busy_file.h"
 #include "tags/each_tag_writer.h"
 #include "tags/field_boxes.h"
 #include "tags/file_panel.h"
 #include "tags/update_tags.h"
+#include "ui/closing_step.h"
 #include "ui/progress.h"
 #include "ui/windows.h"
+#include "undo/name_restorer.h"
+#include "undo/replay.h"
+#include "undo/tag_restorer.h"
+#include "undo/undo_commands.h"
+#include "undo/undo_errors.h"
 
 namespace velmora::app {
 
@@ -43,13 +43,13 @@ struct RepairRoom {
     core::Settings& settings;
     core::DataFolder& data;
     ui::Progress& progress;
-    list::ClosingStep& closing;
-    player::FileHolder& player;
+    ui::ClosingStep& closing;
+    platform::FileHolder& player;
     tags::FilePanel& panel;
     tags::BusyFile& busyFile;
     tags::TagWriter& tagWriter;
-    review::UndoJournal& journal;
-    review::ArtistBook& artists;
+    journal::UndoJournal& journal;
+    rows::ArtistBook& artists;
   };
   explicit RepairRoom(const Ground& ground);
 
@@ -57,21 +57,21 @@ struct RepairRoom {
   tags::FieldBoxes fields;
   tags::EachTagWriter eachTagWriter;
   names::SyntaxFixer fixer;
-  names::Renamer renamer;
-  names::BatchFrame frame;
-  names::NameBatches nameBatches;
-  names::TagBatches tagBatches;
-  names::UndoName undoName;
+  batch::Renamer renamer;
+  batch::BatchFrame frame;
+  batch::NameBatches nameBatches;
+  batch::TagBatches tagBatches;
+  batch::UndoName undoName;
 
   // Rows and files that go, and the way back.
-  review::RowKeeper rows;
-  review::FileMover mover;
-  review::DeleteFiles deleteFiles;
-  review::UndoErrors undoErrors;
-  review::TagRestorer tagRestorer;
-  review::NameRestorer nameRestorer;
-  review::Replay replay;
-  review::UndoCommands undoCommands;
+  rows::RowKeeper rows;
+  rows::FileMover mover;
+  list::DeleteFiles deleteFiles;
+  undo::UndoErrors undoErrors;
+  undo::TagRestorer tagRestorer;
+  undo::NameRestorer nameRestorer;
+  undo::Replay replay;
+  undo::UndoCommands undoCommands;
 };
 
 }  // namespace velmora::app

@@ -8,24 +8,24 @@ namespace {
 
 void wireColumns(House& house) {
   ui::Form2& form2 = house.windows.form2;
-  base::NewMusicLists& lists = house.baseRoom.newMusic;
-  const auto click = [&house, &lists](void (base::NewMusicLists::*handler)()) {
+  newmusic::NewMusicLists& lists = house.baseRoom.newMusic;
+  const auto click = [&house, &lists](void (newmusic::NewMusicLists::*handler)()) {
     return [&house, &lists, handler] {
       (lists.*handler)();
       enableBaseCommands(house);
     };
   };
-  form2.List1.onClick = click(&base::NewMusicLists::List1Click);
-  form2.Dir1.onClick = click(&base::NewMusicLists::Dir1Click);
-  form2.Drive1.onChange = click(&base::NewMusicLists::Drive1Change);
-  form2.List2.onClick = click(&base::NewMusicLists::List2Click);
-  form2.List3.onClick = click(&base::NewMusicLists::List3Click);
-  form2.List8.onClick = click(&base::NewMusicLists::List8Click);
-  form2.List4.onClick = click(&base::NewMusicLists::List4Click);
-  form2.genreByTag.onClick = click(&base::NewMusicLists::genresByTag);
-  form2.genreByFolder.onClick = click(&base::NewMusicLists::genresByFolder);
-  form2.albumByTag.onClick = click(&base::NewMusicLists::albumsByTag);
-  form2.albumByFolder.onClick = click(&base::NewMusicLists::albumsByFolder);
+  form2.List1.onClick = click(&newmusic::NewMusicLists::List1Click);
+  form2.Dir1.onClick = click(&newmusic::NewMusicLists::Dir1Click);
+  form2.Drive1.onChange = click(&newmusic::NewMusicLists::Drive1Change);
+  form2.List2.onClick = click(&newmusic::NewMusicLists::List2Click);
+  form2.List3.onClick = click(&newmusic::NewMusicLists::List3Click);
+  form2.List8.onClick = click(&newmusic::NewMusicLists::List8Click);
+  form2.List4.onClick = click(&newmusic::NewMusicLists::List4Click);
+  form2.genreByTag.onClick = click(&newmusic::NewMusicLists::genresByTag);
+  form2.genreByFolder.onClick = click(&newmusic::NewMusicLists::genresByFolder);
+  form2.albumByTag.onClick = click(&newmusic::NewMusicLists::albumsByTag);
+  form2.albumByFolder.onClick = click(&newmusic::NewMusicLists::albumsByFolder);
   house.artists.onAdded = [&lists](const Text& artist) { lists.artistAdded(artist); };
   house.artists.onRemoved = [&lists](const Text& artist) { lists.artistRemoved(artist); };
 }

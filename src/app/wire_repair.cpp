@@ -1,7 +1,7 @@
 #include "app/enable_commands.h"
 #include "app/house.h"
 #include "app/wiring.h"
-#include "list/view_choice.h"
+#include "ui/view_choice.h"
 
 namespace velmora::app {
 
@@ -25,8 +25,8 @@ void wirePlayer(House& house) {
 void wireBatches(House& house) {
   ui::Form1& form1 = house.windows.form1;
   ui::RepairTools& tools = form1.repair;
-  names::NameBatches& names = house.repair.nameBatches;
-  names::TagBatches& tags = house.repair.tagBatches;
+  batch::NameBatches& names = house.repair.nameBatches;
+  batch::TagBatches& tags = house.repair.tagBatches;
   tools.fnToId3.onClick = command(house, form1, [&tags] { tags.fromNames(); });
   tools.id3ToFn.onClick = command(house, form1, [&names] { names.fromTags(); });
   tools.fixSyntax.onClick = command(house, form1, [&names] { names.fixSyntax(); });
@@ -67,7 +67,7 @@ void wireUndo(House& house) {
 
 void wireDelete(House& house) {
   ui::Form1& form1 = house.windows.form1;
-  review::DeleteFiles& deleteFiles = house.repair.deleteFiles;
+  list::DeleteFiles& deleteFiles = house.repair.deleteFiles;
   form1.repair.deleteFiles.onClick = command(house, form1, [&deleteFiles] { deleteFiles.deleteByButton(); });
   deleteFiles.onSongsChanged = [&house] { house.listViews.List1Click(); };
 }

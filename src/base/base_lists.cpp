@@ -6,8 +6,8 @@
 #include "base/list_sort.h"
 #include "core/paths.h"
 #include "core/text.h"
-#include "list/quiet_lists.h"
 #include "ui/list_scroll.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora::base {
 
@@ -197,7 +197,7 @@ std::vector<ListItem> BaseLists::albumRows(const std::vector<int>& artists) {
 
 void BaseLists::selectAlbums(const Text& artist) {
   ui::ListBox& albums = parts_.form3.List3;
-  const list::QuietLists quiet(parts_.table);
+  const ui::QuietLists quiet(parts_.table);
   const Text album = parts_.positions.LoadPos(artist + Text(albumKey));
   if (const int index = album.empty() ? -1 : indexOf(albums, album); index >= 0)
     return selectInSight(albums, index);

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "base/state_fields.h"
-#include "list/quiet_lists.h"
 #include "ui/list_state.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora::base {
 
@@ -32,7 +32,7 @@ bool selectMore(ui::ListBox& list, const std::vector<int>& rows) {
 /// The titles are not listed under `puniliste`.
 void listTitles(ui::Form3& form3, core::TrackTable& table) {
   if (form3.List3.SelCount() == 0 || form3.List8.ListCount() > 0 || !form3.List3.onClick) return;
-  const list::LoudLists loud(table);
+  const ui::LoudLists loud(table);
   form3.List3.onClick();
 }
 

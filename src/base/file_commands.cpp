@@ -7,8 +7,8 @@
 #include "base/busy.h"
 #include "core/paths.h"
 #include "core/text.h"
+#include "journal/stek.h"
 #include "platform/file_error.h"
-#include "review/stek.h"
 #include "ui/list_scroll.h"
 
 namespace velmora::base {
@@ -69,7 +69,7 @@ Text FileCommands::nameFor(int file, const Text& typed) const {
 
 bool FileCommands::rename(const Text& path, const Text& newPath) {
   if (onMoving) onMoving(path);
-  player::FileHandOver handOver(parts_.player, path);
+  platform::FileHandOver handOver(parts_.player, path);
   try {
     parts_.files.move(path, newPath);
     handOver.renamed(newPath);
@@ -100,7 +100,7 @@ void FileCommands::delWithoutFolder() {
 void FileCommands::deleteFiles(const std::vector<int>& files) {
   if (!confirmed(u"Are you sure you want to DELETE selected file(s)?", Text(deleteTitle))) return;
   const Busy busy(parts_.windows, parts_.progress, u"Delete ...");
-  review::Stek<Text> stack;
+  journal::Stek<Text> stack;
   for (const int file : files)
     if (Text path = parts_.lists.filePath(file); !path.empty()) stack.Push(std::move(path));
   std::vector<Text> paths;

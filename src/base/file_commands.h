@@ -6,7 +6,7 @@
 #include "base/base_lists.h"
 #include "base/trash_files.h"
 #include "platform/dialogs.h"
-#include "player/hand_over.h"
+#include "platform/hand_over.h"
 #include "ui/progress.h"
 #include "ui/windows.h"
 
@@ -19,7 +19,7 @@ class FileCommands {
     core::TrackTable& table;
     platform::Files& files;
     platform::Dialogs& dialogs;
-    player::FileHolder& player;
+    platform::FileHolder& player;
     ui::Windows& windows;
     ui::Progress& progress;
     BaseLists& lists;

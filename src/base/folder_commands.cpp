@@ -8,9 +8,9 @@
 #include "base/busy.h"
 #include "core/number_text.h"
 #include "core/text.h"
-#include "list/quiet_lists.h"
 #include "platform/file_error.h"
 #include "ui/list_scroll.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora::base {
 
@@ -106,7 +106,7 @@ void FolderCommands::renArtist() {
                          parts_.lists.genrePath(artists.ItemData(artist)) + AppendPath(name)});
   ren(artists, u"Rename...", renamings, [&] {
     {
-      const list::QuietLists quiet(parts_.table);
+      const ui::QuietLists quiet(parts_.table);
       parts_.lists.List1Click();
     }
     selectText(artists, name, false);
@@ -132,7 +132,7 @@ void FolderCommands::renAlbum() {
         {parts_.lists.albumPath(album), parts_.lists.artistPath(albums.ItemData(album)) + AppendPath(name)});
   ren(albums, u"Rename ...", renamings, [&] {
     {
-      const list::QuietLists quiet(parts_.table);
+      const ui::QuietLists quiet(parts_.table);
       parts_.lists.List2Click();
     }
     selectText(albums, name.empty() ? withoutFolder : TextView(name), true);
@@ -205,7 +205,7 @@ void FolderCommands::delAlbum() {
   if (albums.Selected(0) && parts_.lists.isWithoutFolder(0)) parts_.fileCommands.delWithoutFolder();
   if (parts_.table.Stop) return;
   del(albums, folders, [this] {
-    const list::QuietLists quiet(parts_.table);
+    const ui::QuietLists quiet(parts_.table);
     parts_.lists.List2Click();
   });
 }

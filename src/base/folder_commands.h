@@ -26,7 +26,7 @@ class FolderCommands {
     core::TrackTable& table;
     platform::Files& files;
     platform::Dialogs& dialogs;
-    player::FileHolder& player;
+    platform::FileHolder& player;
     ui::Windows& windows;
     ui::Progress& progress;
     BaseLists& lists;

@@ -63,7 +63,7 @@ void FolderMoves::collect(const Text& source, const Text& target, const Text& kn
 
 bool FolderMoves::MoveFile(const Move& move) {
   if (onMoving) onMoving(move.known);
-  player::FileHandOver handOver(parts_.player, move.known);
+  platform::FileHandOver handOver(parts_.player, move.known);
   for (;;) {
     try {
       parts_.files.move(move.from, move.to);

@@ -7,7 +7,7 @@
 #include "base/folders.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
-#include "player/hand_over.h"
+#include "platform/hand_over.h"
 
 namespace velmora::base {
 
@@ -18,7 +18,7 @@ class FolderMoves {
   struct Parts {
     platform::Files& files;
     platform::Dialogs& dialogs;
-    player::FileHolder& player;
+    platform::FileHolder& player;
     Folders& folders;
   };
   explicit FolderMoves(const Parts& parts) : parts_(parts), walk_(parts.files, FolderWalk::Links::AreFiles) {}

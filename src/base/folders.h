@@ -3,8 +3,8 @@
 #include <set>
 
 #include "core/track_table.h"
+#include "journal/undo_journal.h"
 #include "platform/files.h"
-#include "review/undo_journal.h"
 
 namespace velmora::base {
 
@@ -14,7 +14,7 @@ class Folders {
   struct Parts {
     core::TrackTable& table;
     platform::Files& files;
-    review::UndoJournal& journal;
+    journal::UndoJournal& journal;
   };
   explicit Folders(const Parts& parts) : parts_(parts) {}
 

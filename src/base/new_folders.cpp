@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "base/base_tree.h"
-#include "list/quiet_lists.h"
 #include "platform/file_error.h"
 #include "ui/list_scroll.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora::base {
 
@@ -69,7 +69,7 @@ void NewFolders::newArtist() {
   const Text name = nameFrom(parts_.form3.Text2);
   if (!made(parts_.lists.genrePath(genre), name)) return;
   {
-    const list::QuietLists quiet(parts_.table);
+    const ui::QuietLists quiet(parts_.table);
     parts_.lists.List1Click();
   }
   // A year filter may leave the new folder out.

@@ -5,8 +5,8 @@
 
 #include "core/track_table.h"
 #include "platform/files.h"
+#include "platform/hand_over.h"
 #include "platform/trash.h"
-#include "player/hand_over.h"
 #include "ui/progress.h"
 
 namespace velmora::base {
@@ -18,7 +18,7 @@ class TrashFiles {
     core::TrackTable& table;
     platform::Files& files;
     platform::Trash& trash;
-    player::FileHolder& player;
+    platform::FileHolder& player;
     ui::Progress& progress;
   };
   explicit TrashFiles(const Parts& parts) : parts_(parts) {}

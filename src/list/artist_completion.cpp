@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "core/text.h"
-#include "list/quiet_lists.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora::list {
 
@@ -18,7 +18,7 @@ void addMatches(std::vector<Text>& matches, const std::vector<Text>& artists, Te
 
 void ArtistCompletion::boxChanged() {
   if (quiet() || form1_.List4.ListCount() == 0 || table_.vrsta == 11) return;
-  const QuietLists quietly(table_);
+  const ui::QuietLists quietly(table_);
   closeOffer();
   const TextView typed = core::trim(core::left(box().text(), box().cursor()));
   if (typed.empty()) return;
@@ -36,7 +36,7 @@ void ArtistCompletion::List3Click() {
   if (quiet() || !form1_.List3.Selected(index)) return;
   Text text(core::trim(form1_.List3.List(index)));
   if (!artistListView()) text.append(u" - ").append(core::trim(table_.track(table_.currentRow).pesma.text()));
-  const QuietLists quietly(table_);
+  const ui::QuietLists quietly(table_);
   box().setText(text);
   closeOffer();
 }

@@ -11,10 +11,10 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "list/base_list.h"
-#include "list/display_limit.h"
 #include "list/file_sizes.h"
-#include "list/view_choice.h"
 #include "platform/file_error.h"
+#include "ui/display_limit.h"
+#include "ui/view_choice.h"
 
 namespace velmora::list {
 
@@ -133,8 +133,8 @@ void ListMaker::makeList(const Text& folder, Found& found) {
   parts_.progress.UpdateProgress(2);
   form1.ostali.setEnabled(true);
   if (form1.List4.ListCount() == 0) findOldArtists();
-  const bool otherRows = viewOf(form1) == View::Other;
-  enterView(form1, View::Music);
+  const bool otherRows = ui::viewOf(form1) == ui::View::Other;
+  ui::enterView(form1, ui::View::Music);
   if (otherRows) listRows();
   if (!findFiles(folder, found)) return;
   form1.List4.Clear();
@@ -213,7 +213,7 @@ void ListMaker::appendTail() {
 
 void ListMaker::showRows() {
   core::TrackTable& table = parts_.table;
-  if (overLimit(table.brojfajlova()))
+  if (ui::overLimit(table.brojfajlova()))
     parts_.dialogs.message(
         u"There is to many files. Program can display only 32737 files on list. Process these files first, "
         u"then make list again for others. ",
@@ -224,7 +224,7 @@ void ListMaker::showRows() {
 void ListMaker::listRows() {
   const core::TrackTable& table = parts_.table;
   std::vector<Text> paths;
-  for (int row = 1; row <= shownRows(table.workingRows()); ++row) paths.push_back(table.path(row));
+  for (int row = 1; row <= ui::shownRows(table.workingRows()); ++row) paths.push_back(table.path(row));
   parts_.windows.form1.List4.fill(std::move(paths));
 }
 

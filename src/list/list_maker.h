@@ -8,15 +8,15 @@
 #include "core/data_folder.h"
 #include "core/settings.h"
 #include "core/track_table.h"
-#include "list/closing_step.h"
+#include "journal/undo_journal.h"
+#include "list/dash_finder.h"
 #include "list/folder_scan.h"
-#include "names/dash_finder.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
-#include "review/artist_book.h"
-#include "review/undo_journal.h"
+#include "rows/artist_book.h"
 #include "tags/file_panel.h"
+#include "ui/closing_step.h"
 #include "ui/progress.h"
 #include "ui/windows.h"
 
@@ -35,10 +35,10 @@ class ListMaker {
     platform::Desktop& desktop;
     ui::Windows& windows;
     ui::Progress& progress;
-    ClosingStep& closing;
-    review::UndoJournal& journal;
-    review::ArtistBook& artists;
-    names::DashFinder& dashes;
+    ui::ClosingStep& closing;
+    journal::UndoJournal& journal;
+    rows::ArtistBook& artists;
+    DashFinder& dashes;
     tags::FilePanel& panel;
   };
   explicit ListMaker(const Parts& parts) : parts_(parts) {}

@@ -9,12 +9,12 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
-#include "list/display_limit.h"
 #include "list/file_sizes.h"
 #include "list/other_rows.h"
-#include "list/quiet_lists.h"
-#include "list/view_choice.h"
 #include "names/grammar.h"
+#include "ui/display_limit.h"
+#include "ui/quiet_lists.h"
+#include "ui/view_choice.h"
 
 namespace velmora::list {
 
@@ -33,8 +33,8 @@ void ListViews::showMusicFiles() {
   parts_.closing.run([this] {
     const core::TrackTable& table = parts_.table;
     parts_.progress.show(u"Make List ...");
-    enterView(parts_.windows.form1, View::Music);
-    const int rows = shownRows(table.workingRows());
+    ui::enterView(parts_.windows.form1, ui::View::Music);
+    const int rows = ui::shownRows(table.workingRows());
     std::vector<Text> paths;
     for (int row = 1; row <= rows; ++row) {
       paths.push_back(table.path(row));
@@ -49,9 +49,9 @@ void ListViews::showOtherFiles() {
   parts_.closing.run([this] {
     const core::TrackTable& table = parts_.table;
     parts_.progress.show(u"Make List ...");
-    enterView(parts_.windows.form1, View::Other);
+    ui::enterView(parts_.windows.form1, ui::View::Other);
     parts_.data.writeList(u"niznomusic.txt", table.niznomusic);
-    if (overLimit(static_cast<int>(table.niznomusic.size())))
+    if (ui::overLimit(static_cast<int>(table.niznomusic.size())))
       parts_.dialogs.message(
           u"To many files. Can display only 32737 files on list. When process these files, make list again "
           u"to display other files.",
@@ -73,13 +73,13 @@ void ListViews::folderTreeClick() {
 
 void ListViews::List4Click() {
   ui::Form1& form1 = parts_.windows.form1;
-  if (quiet() || viewOf(form1) == View::Other) return;
+  if (quiet() || ui::viewOf(form1) == ui::View::Other) return;
   const int index = selectedIndex(form1.List4);
   if (index < 0) return;
   const int row = index + 1;
   const int vrsta = parts_.table.vrsta;
   // The name box changes without the user typing: there is nothing to complete.
-  const QuietLists quietly(parts_.table);
+  const ui::QuietLists quietly(parts_.table);
   form1.List3.Clear();
   form1.List3.setVisible(false);
   if (vrsta == 1 || vrsta == 2 || vrsta == 11 || vrsta == 12) {

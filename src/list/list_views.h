@@ -2,10 +2,10 @@
 
 #include "core/data_folder.h"
 #include "core/track_table.h"
-#include "list/closing_step.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "tags/file_panel.h"
+#include "ui/closing_step.h"
 #include "ui/progress.h"
 #include "ui/windows.h"
 
@@ -22,7 +22,7 @@ class ListViews {
     platform::Dialogs& dialogs;
     ui::Windows& windows;
     ui::Progress& progress;
-    ClosingStep& closing;
+    ui::ClosingStep& closing;
     tags::FilePanel& panel;
   };
   explicit ListViews(const Parts& parts) : parts_(parts) {}

@@ -6,11 +6,11 @@
 
 #include "core/number_text.h"
 #include "core/paths.h"
-#include "list/display_limit.h"
 #include "list/other_rows.h"
-#include "list/view_choice.h"
 #include "platform/file_error.h"
-#include "review/file_mover.h"
+#include "rows/file_mover.h"
+#include "ui/display_limit.h"
+#include "ui/view_choice.h"
 
 namespace velmora::list {
 
@@ -34,7 +34,7 @@ class HeldWindow {
 }  // namespace
 
 void OtherFiles::open() {
-  if (overLimit(static_cast<int>(parts_.table.niznomusic.size())))
+  if (ui::overLimit(static_cast<int>(parts_.table.niznomusic.size())))
     parts_.dialogs.message(
         u"There is to many files. Program can display only 32737 files on list. When process these files, "
         u"make list again to display other files.",
@@ -53,10 +53,10 @@ void OtherFiles::moveSelected() {
   const auto folder = parts_.dialogs.pickFolder(u"Select folder where you want to move selected files.",
                                                 parts_.settings.get(u"novidir"));
   if (!folder) return;
-  review::FileMover mover(parts_.files, parts_.dialogs, parts_.player);
+  rows::FileMover mover(parts_.files, parts_.dialogs, parts_.player);
   walkSelected(u"Moving ...", [&mover, &folder](const Text& path) {
     const auto result = mover.move(path, core::paths::join(*folder, core::paths::fileName(path)));
-    return Outcome{result == review::MoveResult::Moved, result != review::MoveResult::Abort};
+    return Outcome{result == rows::MoveResult::Moved, result != rows::MoveResult::Abort};
   });
 }
 
@@ -90,7 +90,7 @@ void OtherFiles::keepRows(std::vector<Text> left) {
   parts_.data.writeList(u"niznomusic.txt", all);
   parts_.settings.setNumber(u"velicinasfiles", static_cast<std::int64_t>(parts_.table.velicinasfiles));
   form8.list.fill(shownOtherFiles(parts_.table));
-  if (viewOf(parts_.windows.form1) == View::Other)
+  if (ui::viewOf(parts_.windows.form1) == ui::View::Other)
     listOtherFiles(parts_.table, parts_.files, parts_.progress, parts_.windows.form1);
 }
 

@@ -6,11 +6,11 @@
 #include "core/data_folder.h"
 #include "core/settings.h"
 #include "core/track_table.h"
-#include "list/closing_step.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
+#include "platform/hand_over.h"
 #include "platform/trash.h"
-#include "player/hand_over.h"
+#include "ui/closing_step.h"
 #include "ui/progress.h"
 #include "ui/windows.h"
 
@@ -27,10 +27,10 @@ class OtherFiles {
     platform::Files& files;
     platform::Trash& trash;
     platform::Dialogs& dialogs;
-    player::FileHolder& player;
+    platform::FileHolder& player;
     ui::Windows& windows;
     ui::Progress& progress;
-    ClosingStep& closing;
+    ui::ClosingStep& closing;
   };
   explicit OtherFiles(const Parts& parts) : parts_(parts) {}
 

@@ -4,14 +4,14 @@
 #include <cstdint>
 
 #include "core/number_text.h"
-#include "list/display_limit.h"
 #include "list/file_sizes.h"
+#include "ui/display_limit.h"
 
 namespace velmora::list {
 
 std::vector<Text> shownOtherFiles(const core::TrackTable& table) {
   const auto& all = table.niznomusic;
-  return {all.begin(), all.begin() + shownRows(static_cast<int>(all.size()))};
+  return {all.begin(), all.begin() + ui::shownRows(static_cast<int>(all.size()))};
 }
 
 void listOtherFiles(const core::TrackTable& table, platform::Files& files, ui::Progress& progress,

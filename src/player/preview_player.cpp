@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "core/number_text.h"
-#include "list/quiet_lists.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora::player {
 
@@ -65,7 +65,7 @@ void PreviewPlayer::List4DoubleClick() {
     const int row = index + 1;
     playRow(row);
     // The panel shows the played file, so the name box must not keep another one's.
-    const list::QuietLists quietly(parts_.table);
+    const ui::QuietLists quietly(parts_.table);
     if (parts_.table.hasRow(row)) parts_.panel.showName(row);
   }
 }

@@ -5,8 +5,8 @@
 
 #include "core/track_table.h"
 #include "platform/desktop.h"
+#include "platform/hand_over.h"
 #include "platform/media_player.h"
-#include "player/hand_over.h"
 #include "tags/file_panel.h"
 #include "ui/form1.h"
 
@@ -19,7 +19,7 @@ int soundOfShare(double share);
 Text timeText(double seconds);
 
 /// The preview player: plays rows, follows the position, and gives up its file to whoever changes it.
-class PreviewPlayer final : public FileHolder {
+class PreviewPlayer final : public platform::FileHolder {
  public:
   struct Parts {
     core::TrackTable& table;

@@ -37,9 +37,9 @@ void keepPart(platform::Files& files, platform::Desktop& desktop, const Text& pa
 
 }  // namespace
 
-void SkiniID3v2(platform::Files& files, platform::Desktop& desktop, player::FileHolder& player,
+void SkiniID3v2(platform::Files& files, platform::Desktop& desktop, platform::FileHolder& player,
                 const Text& path) {
-  const player::FileHandOver handOver(player, path);
+  const platform::FileHandOver handOver(player, path);
   auto song = files.open(path, platform::OpenMode::Read);
   SongBytes bytes(*song);
   const std::uint64_t tagEnd = ID3TagEnd(bytes);
@@ -48,9 +48,9 @@ void SkiniID3v2(platform::Files& files, platform::Desktop& desktop, player::File
   keepPart(files, desktop, path, std::move(song), tagEnd, bytes.size(), u".new");
 }
 
-void SkiniID3v1(platform::Files& files, platform::Desktop& desktop, player::FileHolder& player,
+void SkiniID3v1(platform::Files& files, platform::Desktop& desktop, platform::FileHolder& player,
                 const Text& path) {
-  const player::FileHandOver handOver(player, path);
+  const platform::FileHandOver handOver(player, path);
   auto song = files.open(path, platform::OpenMode::Read);
   const std::uint64_t size = song->size();
   if (size <= cMP3ID3v1::tagBytes) throw notAValidMP3File(path);

@@ -5,8 +5,8 @@
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
+#include "journal/undo_journal.h"
 #include "platform/file_error.h"
-#include "review/undo_journal.h"
 #include "tags/genre.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
@@ -51,7 +51,7 @@ void TagWriter::UpdateTags() {
 void TagWriter::UpdateTags(OpenSong& song) {
   const int row = parts_.table.currentRow;
   const Text& path = song.path();
-  const player::FileHandOver handOver(parts_.player, path);
+  const platform::FileHandOver handOver(parts_.player, path);
   if (handOver.held() && parts_.desktop.systemVersion() < pauseBelowVersion)
     parts_.desktop.sleep(pauseMilliseconds);
   if (!parts_.busyFile.waitUntilFree(song)) return;
@@ -61,7 +61,7 @@ void TagWriter::UpdateTags(OpenSong& song) {
   } catch (const platform::FileError&) {
     // What keeps the file from being written shows in the dialog of the write.
   }
-  const Text before = review::rowSnapshot(parts_.table, row);
+  const Text before = journal::rowSnapshot(parts_.table, row);
   if (!writeTags(song, row, handOver.held())) return;
   if (onWritten) onWritten(row, before);
   showAgain(song, row);

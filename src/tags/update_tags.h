@@ -6,7 +6,7 @@
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
-#include "player/hand_over.h"
+#include "platform/hand_over.h"
 #include "tags/busy_file.h"
 #include "tags/file_panel.h"
 #include "tags/open_song.h"
@@ -23,7 +23,7 @@ class TagWriter {
     platform::Files& files;
     platform::Dialogs& dialogs;
     platform::Desktop& desktop;
-    player::FileHolder& player;
+    platform::FileHolder& player;
     BusyFile& busyFile;
     FilePanel& panel;
     ui::Form1& form1;

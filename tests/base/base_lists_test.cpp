@@ -4,8 +4,8 @@
 #include <random>
 
 #include "core/number_text.h"
-#include "list/quiet_lists.h"
 #include "tests/base/base_world.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora {
 namespace {
@@ -98,7 +98,7 @@ TEST(TitleText, LosesTheArtistPart) {
 TEST_F(BaseListsTest, CommandsGetNoTitles) {
   show({u"R/A/Al 2001/A - one.mp3", u"R/A/own.mp3"});
   {
-    const list::QuietLists quiet(table);
+    const ui::QuietLists quiet(table);
     click(form3.List1, {u"R"});
     EXPECT_EQ(chosen(form3.List2), Names{});
     click(form3.List2, {u"A"});

@@ -5,8 +5,8 @@
 
 #include "base/base_state.h"
 #include "base/folder_walk.h"
-#include "list/quiet_lists.h"
 #include "tests/base/base_world.h"
+#include "ui/quiet_lists.h"
 
 namespace velmora {
 namespace {
@@ -60,7 +60,7 @@ TEST_F(FoldersTest, PostojiDirTellsTheJournalForTheNewMusicWindowAlone) {
   folders.EnsureFolder(at(u"c/"));
   EXPECT_TRUE(there(u"b") && there(u"c"));
   const Text path = at(u"b");
-  EXPECT_EQ(journal.readRecords(), std::vector<Text>{u"mkd" + review::lengthPrefixed(path) + u" "});
+  EXPECT_EQ(journal.readRecords(), std::vector<Text>{u"mkd" + journal::lengthPrefixed(path) + u" "});
 }
 
 TEST_F(FoldersTest, OnlyFoldersWithoutFilesAreRemoved) {
@@ -223,7 +223,7 @@ TEST_F(YearFilterTest, TheDumpOfAFolderGoesByItsYear) {
 struct BaseStateTest : test::BaseWorld {
   void restore(const Text& state) {
     lists.IzlistajBazu();
-    const list::QuietLists quiet(table);
+    const ui::QuietLists quiet(table);
     base::restoreLists(form3, table, state);
   }
 };

@@ -4,9 +4,9 @@
 
 #include "core/paths.h"
 #include "core/text.h"
-#include "list/display_limit.h"
 #include "names/grammar.h"
 #include "tests/list/list_world.h"
+#include "ui/display_limit.h"
 
 namespace velmora::list {
 namespace {
@@ -258,7 +258,7 @@ TEST_F(ListMakerTest, AFailureAtAnyFileOperationLeavesWholeRowsAndUsableWindows)
 }
 
 TEST_F(ListMakerTest, BeyondTheDisplayLimitRowsAreKeptButNotShown) {
-  static_assert(shownRows(32737) == 32737 && shownRows(32738) == 32736);
+  static_assert(ui::shownRows(32737) == 32737 && ui::shownRows(32738) == 32736);
   for (int row = 1; row <= 32737; ++row) table.appendPath(u"/gone.mp3");
   table.setBrojfajlova(32737);
   song(u"music/a.mp3");

@@ -1,7 +1,7 @@
 #include "list/list_views.h"
 
-#include "list/display_limit.h"
 #include "tests/list/list_world.h"
+#include "ui/display_limit.h"
 
 namespace velmora::list {
 namespace {

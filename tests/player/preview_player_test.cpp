@@ -139,10 +139,10 @@ TEST_F(PreviewPlayerTest, GivesUpItsFileAndGoesOnAtTheSamePlaceUnderTheNewName) 
   media.advance(42);
   const Text renamed = folder.path(u"a - uno.mp3");
   media.know(renamed, 100);
-  { const FileHandOver handOver(player, paths[1]); }
+  { const platform::FileHandOver handOver(player, paths[1]); }
   EXPECT_EQ(media.opened.size(), 1U) << "another file is not given up";
   {
-    FileHandOver handOver(player, paths[0]);
+    platform::FileHandOver handOver(player, paths[0]);
     ASSERT_TRUE(handOver.held());
     EXPECT_EQ(media.file(), folder.path(u"private.wav"));
     EXPECT_EQ(media.volume, -4452);
@@ -160,11 +160,11 @@ TEST_F(PreviewPlayerTest, APausedFileComesBackPausedAndAStoppedOneStopped) {
   player.playRow(1);
   media.advance(42);
   player.pause();
-  { FileHandOver handOver(player, paths[0]); }
+  { platform::FileHandOver handOver(player, paths[0]); }
   EXPECT_EQ(media.state(), PlayState::Paused);
   EXPECT_EQ(media.position(), 42);
   player.stop();
-  { FileHandOver handOver(player, paths[0]); }
+  { platform::FileHandOver handOver(player, paths[0]); }
   EXPECT_EQ(media.state(), PlayState::Stopped);
   EXPECT_EQ(media.file(), paths[0]);
 }
@@ -173,12 +173,12 @@ TEST_F(PreviewPlayerTest, WhatTheUserDoesMeanwhileCounts) {
   player.playRow(1);
   media.advance(42);
   {
-    FileHandOver handOver(player, paths[0]);
+    platform::FileHandOver handOver(player, paths[0]);
     player.pause();
   }
   EXPECT_EQ(media.state(), PlayState::Paused);
   {
-    FileHandOver handOver(player, paths[0]);
+    platform::FileHandOver handOver(player, paths[0]);
     player.playRow(2);
   }
   EXPECT_EQ(media.file(), paths[1]) << "the other file that was chosen plays on";

@@ -53,7 +53,7 @@ struct HouseWorld : testing::Test, ListReader {
   core::Settings& settings = house.settings;
   core::DataFolder& data = house.data;
   ui::Progress& progress = house.progress;
-  review::UndoJournal& journal = house.journal;
+  journal::UndoJournal& journal = house.journal;
 };
 
 }  // namespace velmora::test

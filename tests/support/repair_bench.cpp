@@ -4,7 +4,7 @@
 
 #include "core/paths.h"
 #include "core/text.h"
-#include "review/undo_journal.h"
+#include "journal/undo_journal.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
 
@@ -114,7 +114,7 @@ std::string RepairHouse::second(TextView name) {
 
 Names RepairHouse::kinds() const {
   auto& files = const_cast<system::PosixFiles&>(program.files);
-  const review::UndoJournal journal(files, program.settings, program.folder.path(u"program/UndoData.txt"));
+  const journal::UndoJournal journal(files, program.settings, program.folder.path(u"program/UndoData.txt"));
   Names kinds;
   for (const Text& record : journal.readRecords()) kinds.push_back(core::toBytes(record.substr(0, 3)));
   return kinds;

@@ -6,7 +6,7 @@
 #include <numeric>
 
 #include "core/text.h"
-#include "review/undo_record.h"
+#include "journal/undo_record.h"
 #include "tags/tag_cache.h"
 #include "tests/support/headless_velmora.h"
 
@@ -35,7 +35,7 @@ std::set<std::string> contentOf(HeadlessVelmora& of) {
       line += core::toBytes((track.*column).text()) + '|';
     const auto add = [&](bool has, std::size_t from) {
       for (std::size_t i = from; i < from + 6; ++i)
-        line += has ? core::toBytes((track.*review::snapshotColumns()[i]).text()) + '|' : "none|";
+        line += has ? core::toBytes((track.*journal::snapshotColumns()[i]).text()) + '|' : "none|";
     };
     add(track.imaid3v1.isTrue(), 0);
     add(track.imaid3v2.isTrue(), 6);

@@ -3,7 +3,7 @@
 #include <sys/stat.h>
 
 #include "core/text.h"
-#include "review/undo_record.h"
+#include "journal/undo_record.h"
 #include "tests/support/memory_file.h"
 #include "tests/tags/tag_fixture.h"
 
@@ -37,7 +37,7 @@ TEST_F(Cache, FillsTheColumnsOfBothTags) {
   const TextView expected[] = {u"Ar",     u"Harbour ", u"Li",     u"2001", u" 8", u"Opera",
                                u"Arvola", u"Harbour",  u"Lights", u"1999", u"7",  u"Rock"};
   for (std::size_t i = 0; i < std::size(expected); ++i)
-    EXPECT_EQ(track.*review::snapshotColumns()[i], Element(expected[i])) << i;
+    EXPECT_EQ(track.*journal::snapshotColumns()[i], Element(expected[i])) << i;
 }
 
 TEST_F(Cache, AMissingTagIsFalseAndLeavesItsOtherColumns) {

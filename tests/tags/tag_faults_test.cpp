@@ -71,7 +71,7 @@ TEST_F(TagFaults, WritingAnID3v2TagInPlaceAndByGrowth) {
 
 TEST_F(TagFaults, RemovingTags) {
   test::ScriptedDesktop desktop;
-  player::NoFileHolder player;
+  platform::NoFileHolder player;
   survivesFaults(test::Id3v2Maker().padding(500).bytes() + audio,
                  [&](platform::Files& with, const Text& path) { SkiniID3v2(with, desktop, player, path); });
   survivesFaults(audio + test::id3v1Tag({}),
@@ -90,7 +90,7 @@ TEST_F(TagFaults, UpdateTagsKeepsTheFramesThatThePanelDoesNotShow) {
     rows.resizeColumns();
     test::FaultFiles faults(files);
     test::ScriptedDesktop desktop;
-    player::NoFileHolder player;
+    platform::NoFileHolder player;
     ui::Form1 form1;
     TagCache cache(rows, faults);
     FilePanel panel(rows, faults, cache, form1);

@@ -19,7 +19,7 @@ struct Removal : TagFixture {
 
   const Bytes audio = test::mpegFrames(30);
   test::ScriptedDesktop desktop;
-  player::NoFileHolder player;
+  platform::NoFileHolder player;
 };
 
 TEST_F(Removal, TakesTheLeadingTagByItsSynchsafeSize) {

@@ -8,7 +8,7 @@
 
 #include "core/number_text.h"
 #include "core/text.h"
-#include "review/undo_journal.h"
+#include "journal/undo_journal.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
 #include "tests/support/scripted_desktop.h"
@@ -21,7 +21,7 @@ using platform::Answer;
 using test::Id3v2Maker;
 
 /// A player that notes what it is asked.
-class NotingHolder final : public player::FileHolder {
+class NotingHolder final : public platform::FileHolder {
  public:
   Text file;
   std::string notes;
@@ -94,7 +94,7 @@ struct Writer : TagFixture {
 TEST_F(Writer, WritesTheTagsWhoseBoxesAreChecked) {
   show(second + audio + first);
   form1.tags.viewID3v1.click();
-  const Text before = review::rowSnapshot(table, table.currentRow);
+  const Text before = journal::rowSnapshot(table, table.currentRow);
   fill(u"New", u"5", u"Opera");
   update(true, false);
   EXPECT_EQ(snapshots, std::vector{before}) << "undo gets the row as it was";

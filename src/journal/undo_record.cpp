@@ -1,0 +1,153 @@
+#include "journal/undo_record.h"
+
+#include <charconv>
+#include <string>
+#include <utility>
+
+#include "core/number_text.h"
+#include "core/text.h"
+#include "journal/undo_journal.h"
+
+namespace velmora::journal {
+
+namespace {
+
+constexpr std::size_t kindLength = 3;
+constexpr std::size_t lengthDigits = 3;
+
+bool isDigit(char16_t character) {
+  return character >= u'0' && character <= u'9';
+}
+
+/// A whole number of decimal digits, blanks around it allowed.
+template <typename Number>
+std::optional<Number> parseNumber(TextView text) {
+  text = core::trim(text);
+  std::string digits;
+  for (const char16_t character : text) {
+    if (!isDigit(character)) return std::nullopt;
+    digits += static_cast<char>(character);
+  }
+  Number number = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+std::optional<TextView> FieldReader::next() {
+  const TextView text = std::exchange(left_, {});
+  if (text.size() < lengthDigits) return std::nullopt;
+  std::size_t length = 0;
+  for (const char16_t digit : text.substr(0, lengthDigits)) {
+    if (!isDigit(digit)) return std::nullopt;
+    length = length * 10 + (digit - u'0');
+  }
+  if (text.size() - lengthDigits < length) return std::nullopt;
+  left_ = text.substr(lengthDigits + length);
+  return text.substr(lengthDigits, length);
+}
+
+namespace {
+
+/// A snapshot of thousands of selected rows is longer than three digits can tell. Nothing but a blank follows
+/// it, so a longer count can be read wherever it fits the line exactly.
+std::optional<TextView> longSelection(TextView fields) {
+  std::size_t digits = 0;
+  std::size_t length = 0;
+  while (digits < fields.size() && digits < 9 && isDigit(fields[digits]))
+    length = length * 10 + (fields[digits++] - u'0');
+  if (digits <= lengthDigits || fields.size() != digits + length + 1 || fields.back() != u' ')
+    return std::nullopt;
+  return fields.substr(digits, length);
+}
+
+}  // namespace
+
+UndoRecord parseUndoRecord(TextView line) {
+  UndoRecord record{line.substr(0, kindLength), {}};
+  if (line.size() <= kindLength) return record;
+  if (record.kind == u"bi1")
+    if (const auto snapshot = longSelection(line.substr(kindLength))) {
+      record.data = UndoRecord::Data{*snapshot, {}};
+      return record;
+    }
+  FieldReader fields(line.substr(kindLength));
+  const std::optional<TextView> first = fields.next();
+  if (first && fields.left().starts_with(u' '))
+    record.data = UndoRecord::Data{*first, fields.left().substr(1)};
+  return record;
+}
+
+std::optional<int> parseRow(TextView text) {
+  const std::optional<int> row = parseNumber<int>(text);
+  return row && *row >= 1 ? row : std::nullopt;
+}
+
+Text renamePayload(const core::TrackTable& table, int row) {
+  return lengthPrefixed(core::number(std::int64_t{row})) + lengthPrefixed(table.path(row)) +
+         lengthPrefixed(table.track(row).crtapos.text());
+}
+
+std::optional<RenamePayload> parseRenamePayload(TextView text) {
+  FieldReader fields(text);
+  const auto row = fields.next();
+  const auto path = fields.next();
+  const auto crtapos = fields.next();
+  if (!row || !path || !crtapos || !fields.left().empty()) return std::nullopt;
+  const std::optional<int> rowNumber = parseRow(*row);
+  if (!rowNumber || path->empty()) return std::nullopt;
+  return RenamePayload{*rowNumber, Text(*path), Text(*crtapos)};
+}
+
+Text deletedFile(std::uint64_t size, TextView path) {
+  return lengthPrefixed(core::number(static_cast<std::int64_t>(size))) + lengthPrefixed(path);
+}
+
+std::optional<DeletedFile> parseDeletedFile(TextView text) {
+  FieldReader fields(text);
+  const auto size = fields.next();
+  const auto path = fields.next();
+  if (!size || !path || !fields.left().empty() || path->empty()) return std::nullopt;
+  const auto bytes = parseNumber<std::uint64_t>(*size);
+  if (!bytes) return std::nullopt;
+  return DeletedFile{*bytes, Text(*path)};
+}
+
+const std::array<core::Column, 12>& snapshotColumns() {
+  using core::Track;
+  static constexpr std::array<core::Column, 12> columns = {
+      &Track::pevacID3v1,     &Track::pesmaid3v1,  &Track::albumid3v1,     &Track::godinaid3v1,
+      &Track::brojtrakeid3v1, &Track::vrstaid3v1,  &Track::pevacID3v2,     &Track::pesmaid3v2,
+      &Track::albumid3v2,     &Track::godinaid3v2, &Track::brojtrakeid3v2, &Track::vrstaid3v2};
+  return columns;
+}
+
+std::optional<RowSnapshot> parseRowSnapshot(TextView text) {
+  constexpr std::size_t flags = 3;
+  if (text.size() < flags) return std::nullopt;
+  RowSnapshot snapshot{.procitan = text[0] == u'1',
+                       .imaid3v1 = text[1] == u'1',
+                       .imaid3v2 = text[2] == u'1',
+                       .tags = {},
+                       .path = {},
+                       .crtapos = {},
+                       .brojfajlova = 0};
+  FieldReader fields(text.substr(flags));
+  const auto take = [&fields](Text& into) {
+    const auto field = fields.next();
+    if (field) into = *field;
+    return field.has_value();
+  };
+  for (Text& tag : snapshot.tags)
+    if (!take(tag)) return std::nullopt;
+  Text count;
+  if (!take(snapshot.path) || !take(snapshot.crtapos) || !take(count)) return std::nullopt;
+  const auto rows = parseNumber<int>(count);
+  if (!rows || !fields.left().empty() || snapshot.path.empty()) return std::nullopt;
+  snapshot.brojfajlova = *rows;
+  return snapshot;
+}
+
+}  // namespace velmora::journal

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "core/track_table.h"
+#include "platform/text.h"
+
+/// The records of the undo journal taken apart again. A record is three letters of kind, and for data records
+/// L(first), a blank and the rest, where L(x) is the length of x in three digits and x; docs/formats.md has
+/// them all. Everything here reads any text: what does not fit gives nothing, never a part of the truth.
+namespace velmora::journal {
+
+/// One line of the journal. The kind is the first three letters, whatever follows.
+struct UndoRecord {
+  TextView kind;
+  /// Nothing for a marker, and for a data record that is damaged.
+  struct Data {
+    TextView first;
+    TextView rest;
+  };
+  std::optional<Data> data;
+};
+/// The parts of `line`, which they point into.
+UndoRecord parseUndoRecord(TextView line);
+
+/// Takes L(x) fields off the front of a text, one after the other.
+class FieldReader {
+ public:
+  explicit FieldReader(TextView text) : left_(text) {}
+  /// The next field; nothing when the digits or the length are not as they should be, and ever after.
+  std::optional<TextView> next();
+  /// What no field has taken.
+  TextView left() const { return left_; }
+
+ private:
+  TextView left_;
+};
+
+/// A row number as records hold it, with its leading blank; nothing unless it is one from 1 up.
+std::optional<int> parseRow(TextView text);
+
+/// Rest of a "ren" record: what the file and its row were before.
+struct RenamePayload {
+  int row;
+  Text path;
+  Text crtapos;
+};
+/// L(row) L(path) L(dash position) of a row as it is now.
+Text renamePayload(const core::TrackTable& table, int row);
+std::optional<RenamePayload> parseRenamePayload(TextView text);
+
+/// `first` of a "del" record.
+struct DeletedFile {
+  std::uint64_t size;  ///< bytes
+  Text path;
+};
+Text deletedFile(std::uint64_t size, TextView path);
+std::optional<DeletedFile> parseDeletedFile(TextView text);
+
+/// The text of rowSnapshot taken apart.
+struct RowSnapshot {
+  bool procitan;
+  bool imaid3v1;
+  bool imaid3v2;
+  /// In the order of snapshotColumns().
+  std::array<Text, 12> tags;
+  Text path;
+  Text crtapos;
+  int brojfajlova;
+};
+/// The twelve tag columns that a row snapshot holds, in its order.
+const std::array<core::Column, 12>& snapshotColumns();
+std::optional<RowSnapshot> parseRowSnapshot(TextView text);
+
+}  // namespace velmora::journal

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <vector>
+
+#include "core/track_table.h"
+#include "journal/undo_journal.h"
+#include "platform/files.h"
+#include "rows/file_mover.h"
+#include "rows/row_keeper.h"
+
+namespace velmora::rows {
+
+/// The move of a file that is on the list: its row goes, and the journal remembers both.
+class RowMover {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    journal::UndoJournal& journal;
+    RowKeeper& rows;
+    FileMover& mover;
+  };
+  explicit RowMover(const Parts& parts) : parts_(parts) {}
+
+  /// Moves a file to the full path `target`. Unless `puniliste` is 1 the row of the file leaves the table and
+  /// the move is journalled ("izb", "mov"). `likelyRow` is where the row is looked for first. Throws
+  /// FileError when the move could not be journalled; file and row are then as they were, or, where the file
+  /// cannot go back, the row tells where it lies.
+  MoveResult moveFile(const Text& path, const Text& target, int likelyRow = 0);
+
+ private:
+  int findRow(const Text& path, int likelyRow) const;
+  Text moveBack(const Text& movedTo, const Text& path);
+  void record(const Text& path, const Text& movedTo, int row);
+
+  Parts parts_;
+};
+
+/// Tells where rows stand once rows among them have been removed.
+class RemovedRows {
+ public:
+  explicit RemovedRows(int rows) : removed_(static_cast<std::size_t>(rows) + 1) {}
+
+  /// The row that bore this number before anything was removed is gone.
+  void remove(int row);
+  /// The number that such a row bears now.
+  int now(int row) const;
+
+ private:
+  std::vector<int> removed_;  // counts by the lowest set bit of their place: sums and changes cost log N
+};
+
+}  // namespace velmora::rows

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+
+#include "core/track_table.h"
+#include "journal/undo_record.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/hand_over.h"
+#include "rows/artist_book.h"
+#include "ui/form1.h"
+#include "undo/undo_outcome.h"
+
+namespace velmora::undo {
+
+/// Takes back a rename ("ren").
+class NameRestorer {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    platform::Dialogs& dialogs;
+    platform::FileHolder& player;
+    rows::ArtistBook& artists;
+    ui::Form1& form1;
+  };
+  explicit NameRestorer(const Parts& parts) : parts_(parts) {}
+
+  /// Raised in the duplicates view when a row has its old name: its comparison keys are to be made anew.
+  std::function<void(int row)> onDuplicateRenamed;
+
+  /// Gives the file its old name, and the row its old name, dash and artist. `newPath` is what the rename had
+  /// made of it. A row whose file did not get its name back keeps the name that the file has.
+  UndoOutcome restore(const Text& newPath, const journal::RenamePayload& before);
+
+ private:
+  int rowOf(const Text& newPath, const journal::RenamePayload& before) const;
+  Text fileToRename(int row, const Text& newPath, const journal::RenamePayload& before) const;
+  void restoreRow(int row, const journal::RenamePayload& before);
+  void showOldPath(int row, const Text& shown, const Text& oldPath);
+
+  Parts parts_;
+};
+
+}  // namespace velmora::undo

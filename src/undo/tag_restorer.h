@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/track_table.h"
+#include "journal/undo_record.h"
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/hand_over.h"
+#include "tags/busy_file.h"
+#include "tags/file_panel.h"
+#include "undo/undo_errors.h"
+#include "undo/undo_outcome.h"
+
+namespace velmora::undo {
+
+/// Takes back a write of tags ("id3"): columns and file get the values from before it.
+class TagRestorer {
+ public:
+  struct Parts {
+    core::TrackTable& table;
+    platform::Files& files;
+    platform::Dialogs& dialogs;
+    platform::Desktop& desktop;
+    platform::FileHolder& player;
+    tags::BusyFile& busyFile;
+    tags::FilePanel& panel;
+    UndoErrors& errors;
+  };
+  explicit TagRestorer(const Parts& parts) : parts_(parts) {}
+
+  /// A tag that the write made goes; one that has other values now is written. A file that is not there any
+  /// more is passed over: its columns alone go back.
+  UndoOutcome restore(int row, const journal::RowSnapshot& before);
+
+ private:
+  /// Both answer whether the tag is gone.
+  bool removeID3v1(const Text& path);
+  bool removeID3v2(const Text& path);
+  UndoOutcome writeTags(const Text& path, core::Track& track);
+  bool makeWritable(const Text& path);
+
+  Parts parts_;
+};
+
+}  // namespace velmora::undo
