@@ -52,6 +52,14 @@ platform::Answer ConsentingDialogs::message(const Text& text, const Text& title,
   }
 }
 
+platform::FailureAnswer ConsentingDialogs::failure(const Text& text, const Text& title, bool) {
+  return {message(text, title, platform::Buttons::AbortRetryIgnore, platform::Icon::Critical)};
+}
+
+void ConsentingDialogs::report(const Text& text, const Text& title, const Text& details) {
+  message(text + details, title, platform::Buttons::Ok, platform::Icon::Critical);
+}
+
 std::optional<Text> ConsentingDialogs::input(const Text&, const Text&, const Text& initial) {
   return initial;
 }

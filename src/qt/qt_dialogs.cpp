@@ -1,6 +1,7 @@
 #include "qt/qt_dialogs.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -110,6 +111,28 @@ Answer QtDialogs::message(const Text& text, const Text& title, Buttons buttons, 
   // A box that was dismissed has no clicked button.
   QAbstractButton* clicked = box.clickedButton();
   return answerOf(clicked ? box.standardButton(clicked) : choice.unasked);
+}
+
+platform::FailureAnswer QtDialogs::failure(const Text& text, const Text& title, bool manyFollow) {
+  const Choice choice = choiceOf(Buttons::AbortRetryIgnore);
+  QMessageBox box(QMessageBox::Critical, shown(title), {}, choice.buttons, owner());
+  box.setTextFormat(Qt::PlainText);
+  box.setText(toQString(text));
+  box.setDefaultButton(choice.preset);
+  box.setEscapeButton(choice.unasked);
+  if (manyFollow) box.setCheckBox(new QCheckBox(QStringLiteral("Ignore &all that follow"), &box));
+  run(box);
+  QAbstractButton* clicked = box.clickedButton();
+  const Answer answer = answerOf(clicked ? box.standardButton(clicked) : choice.unasked);
+  return {answer, answer == Answer::Ignore && manyFollow && box.checkBox()->isChecked()};
+}
+
+void QtDialogs::report(const Text& text, const Text& title, const Text& details) {
+  QMessageBox box(QMessageBox::Warning, shown(title), {}, QMessageBox::Ok, owner());
+  box.setTextFormat(Qt::PlainText);
+  box.setText(toQString(text));
+  if (!details.empty()) box.setDetailedText(toQString(details));
+  run(box);
 }
 
 std::optional<Text> QtDialogs::input(const Text& prompt, const Text& title, const Text& initial) {

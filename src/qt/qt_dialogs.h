@@ -18,6 +18,8 @@ class QtDialogs final : public platform::Dialogs {
 
   platform::Answer message(const Text& text, const Text& title, platform::Buttons buttons,
                            platform::Icon icon) override;
+  platform::FailureAnswer failure(const Text& text, const Text& title, bool manyFollow) override;
+  void report(const Text& text, const Text& title, const Text& details) override;
   std::optional<Text> input(const Text& prompt, const Text& title, const Text& initial) override;
   std::optional<Text> pickFolder(const Text& title, const Text& start) override;
 

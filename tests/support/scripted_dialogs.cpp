@@ -63,6 +63,16 @@ Answer ScriptedDialogs::message(const Text& text, const Text& title, platform::B
   }
 }
 
+platform::FailureAnswer ScriptedDialogs::failure(const Text& text, const Text& title, bool manyFollow) {
+  const Answer answer = message(text, title, platform::Buttons::AbortRetryIgnore, platform::Icon::Critical);
+  return {answer, answer == Answer::Ignore && manyFollow && ignoreAll};
+}
+
+void ScriptedDialogs::report(const Text& text, const Text& title, const Text& details) {
+  lastDetails = details;
+  message(text, title, platform::Buttons::Ok, platform::Icon::Exclamation);
+}
+
 std::optional<Text> ScriptedDialogs::input(const Text& prompt, const Text& title, const Text&) {
   const auto expected = take(Kind::Input, prompt, title);
   return expected ? expected->given : std::nullopt;

@@ -29,11 +29,19 @@ class ScriptedDialogs final : public platform::Dialogs {
 
   /// The messages shown so far, and the icon of the last.
   std::vector<Text> shown;
+  /// Whether the check box of the next failures that offer one is ticked.
+  bool ignoreAll = false;
+  /// Details of the last report.
+  Text lastDetails;
   platform::Icon lastIcon = platform::Icon::None;
   platform::Buttons lastButtons = platform::Buttons::Ok;
 
   platform::Answer message(const Text& text, const Text& title, platform::Buttons buttons,
                            platform::Icon icon) override;
+  /// A failure is a message with Abort, Retry and Ignore; `ignoreAll` is what its check box says.
+  platform::FailureAnswer failure(const Text& text, const Text& title, bool manyFollow) override;
+  /// A report is a message with OK alone.
+  void report(const Text& text, const Text& title, const Text& details) override;
   std::optional<Text> input(const Text& prompt, const Text& title, const Text& initial) override;
   std::optional<Text> pickFolder(const Text& title, const Text& start) override;
 
