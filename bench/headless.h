@@ -25,6 +25,7 @@ class QuietDesktop final : public platform::Desktop {
   platform::ScreenRoom screenRoom() override { return {}; }
   double random() override { return 0.5; }
   bool anotherInstanceRunning() override { return false; }
+  bool lessMotion() override { return true; }
   int systemVersion() override { return 1000; }
   void openWithDefaultProgram(const Text&) override {}
 

@@ -93,6 +93,8 @@ House::House(const Services& given, Folders where)
               .tagWriter = tagWriter,
               .journal = journal,
               .artists = artists}),
+      reviews(
+          {.services = services, .windows = windows, .table = table, .player = player, .journal = journal}),
       baseRoom({.services = services,
                 .folders = folders,
                 .windows = windows,

@@ -10,6 +10,7 @@
 #include "app/new_music_window.h"
 #include "app/processing_window.h"
 #include "app/repair_room.h"
+#include "app/review_room.h"
 #include "app/services.h"
 #include "app/shared_screen.h"
 #include "app/table_loader.h"
@@ -80,6 +81,7 @@ struct House {
   list::OtherFiles otherFiles;
   list::ArtistCompletion completion;
   RepairRoom repair;
+  ReviewRoom reviews;
   BaseRoom baseRoom;
 
   // Starting, ending and changing windows.

@@ -28,6 +28,7 @@ Velmora::Velmora(const Services& services, Folders folders)
   house_->work.onCommandDone = [this] { commandDone(*house_); };
   wireForm1(*house_);
   wireRepair(*house_);
+  wireReviews(*house_);
   wireForm2(*house_);
   wireForm3(*house_);
   wireForm8(*house_);

@@ -15,6 +15,8 @@ struct House;
 void wireForm1(House& house);
 /// The player, the batches, Delete and the undo commands of the Processing Window.
 void wireRepair(House& house);
+/// Check+Fix and the panel that it shares with Find Duplicates.
+void wireReviews(House& house);
 void wireForm2(House& house);
 void wireForm3(House& house);
 void wireForm8(House& house);

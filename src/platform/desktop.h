@@ -30,6 +30,8 @@ class Desktop {
   virtual int currentYear() = 0;
   /// The screen of the main window, less what the desktop keeps for itself; no height when it is not known.
   virtual ScreenRoom screenRoom() = 0;
+  /// Whether the user asked the desktop for less motion: nothing flies or fades then.
+  virtual bool lessMotion() = 0;
   /// A number in [0, 1) that differs from start to start.
   virtual double random() = 0;
   /// Whether another copy of this program uses the same program folder.

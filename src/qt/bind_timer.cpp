@@ -8,6 +8,7 @@ void bindTimer(Refresher& refresher, ui::Timer& model, QObject* owner) {
   auto* timer = new QTimer(owner);
   timer->setInterval(model.milliseconds());
   refresher.watch(model, timer, [&model, timer] {
+    if (timer->interval() != model.milliseconds()) timer->setInterval(model.milliseconds());
     if (timer->isActive() == model.on()) return;
     model.on() ? timer->start() : timer->stop();
   });

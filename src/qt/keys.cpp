@@ -12,6 +12,10 @@ std::optional<ui::KeyPress> keyPress(const QKeyEvent& event) {
       return ui::KeyPress{ui::Key::Up, shift};
     case Qt::Key_Down:
       return ui::KeyPress{ui::Key::Down, shift};
+    case Qt::Key_Left:
+      return ui::KeyPress{ui::Key::Left, shift};
+    case Qt::Key_Right:
+      return ui::KeyPress{ui::Key::Right, shift};
     case Qt::Key_Return:
     case Qt::Key_Enter:
       return ui::KeyPress{ui::Key::Enter, shift};

@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
@@ -75,6 +76,12 @@ platform::ScreenRoom QtDesktop::screenRoom() {
   };
   const QRect room = screen->availableGeometry();
   return {twips(room.x()), twips(room.y()), twips(room.width()), twips(room.height())};
+}
+
+bool QtDesktop::lessMotion() {
+  const QStyle* style = QApplication::style();
+  return !QApplication::isEffectEnabled(Qt::UI_General) || !style->styleHint(QStyle::SH_Widget_Animate) ||
+         style->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
 }
 
 double QtDesktop::random() {

@@ -19,6 +19,7 @@ class QtDesktop final : public platform::Desktop {
   std::int64_t clockMilliseconds() override;
   int currentYear() override;
   platform::ScreenRoom screenRoom() override;
+  bool lessMotion() override;
   double random() override;
   bool anotherInstanceRunning() override;
   int systemVersion() override;

@@ -11,7 +11,7 @@
 namespace velmora::ui {
 
 /// The keys that commands tell apart.
-enum class Key { Up, Down, Enter, Delete, F12, Escape };
+enum class Key { Up, Down, Left, Right, Enter, Delete, F12, Escape };
 
 struct KeyPress {
   Key key;

@@ -4,6 +4,7 @@
 #include "ui/list_box.h"
 #include "ui/player_panel.h"
 #include "ui/repair_tools.h"
+#include "ui/review_panel.h"
 #include "ui/window.h"
 
 namespace velmora::ui {
@@ -55,9 +56,9 @@ struct Form1 : Window {
   ListBox List2;                                   ///< songs of the selected artists; item data is the row
   ListBox List3{ListBox::Selection::Single};       ///< artists that complete the name box
   ListBox List5;                                   ///< remembers the selection of List1
-  ListBox List6;                                   ///< the pair of Find Duplicates
-  ListBox List7;                                   ///< kinds of the artists in List1
-  ListBox List8;                                   ///< "NEW" or "OLD" beside each row of List2
+  ListBox List6{ListBox::Selection::Single};  ///< suggestions of Check+Fix, or the pair of Find Duplicates
+  ListBox List7;                              ///< kinds of the artists in List1
+  ListBox List8;                              ///< "NEW" or "OLD" beside each row of List2
 
   // The file panel.
   Label fileSize, fileLength, frequency, bitRate, mode, path;
@@ -67,6 +68,15 @@ struct Form1 : Window {
   TagPanel tags;
   FieldChecks fieldChecks;
   Button update;  ///< writes the tag boxes to the file
+
+  // The reviews.
+  Button checkFix;          ///< "Check+Fix": walks the list from its first file
+  Button checkFixFromHere;  ///< the same from the first selected file on
+  Button findDuplicates;    ///< "Find Duplicates"
+  Button artistList;        ///< "Artist List"
+  ReviewPanel review;
+  Timer Timer1{3000};  ///< the list timer: beats while Find Duplicates waits at a pair
+  Timer Timer3{100};   ///< keeps the top row of List8 equal to that of List2, in Artist List mode
 
   Button assort;   ///< Assort Files Per Folders: on to the Music Base Window
   Slider preview;  ///< sound of the preview player; its share is stored under `slider`

@@ -13,7 +13,9 @@ class Timer : public Observable {
 
   std::function<void()> onTick;
 
+  /// Between two ticks. A new interval begins to count when it is set.
   int milliseconds() const { return milliseconds_; }
+  void setMilliseconds(int interval) { assign(milliseconds_, interval); }
   bool on() const { return on_; }
   void setOn(bool on) { assign(on_, on); }
   void tick() {

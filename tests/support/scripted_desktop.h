@@ -19,6 +19,7 @@ class ScriptedDesktop final : public platform::Desktop {
 
   std::int64_t now = 0;  ///< milliseconds
   double nextRandom = 0;
+  bool calm = true;  ///< the user asked for less motion
   bool anotherInstance = false;
   int version = 1000;
   int year = 2026;
@@ -34,6 +35,7 @@ class ScriptedDesktop final : public platform::Desktop {
   std::int64_t clockMilliseconds() override { return now; }
   int currentYear() override { return year; }
   platform::ScreenRoom screenRoom() override { return room; }
+  bool lessMotion() override { return calm; }
   double random() override { return nextRandom; }
   bool anotherInstanceRunning() override { return anotherInstance; }
   int systemVersion() override { return version; }
