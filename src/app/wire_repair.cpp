@@ -59,6 +59,11 @@ void wireUndo(House& house) {
   tools.undoName.onClick = command(house, form1, [&room] {
     if (!room.undoName.undoEdit()) room.undoName.undoName();
   });
+  house.journal.onNotRecorded = [&house](const platform::FileError& cause) {
+    house.services.dialogs.report(u"The undo journal cannot be written: " + cause.description +
+                                      u". What could not be undone is not done, and the command ends here.",
+                                  u"Undo", {});
+  };
   house.journal.onMarker = [&house, &room](std::string_view kind) {
     room.undoCommands.showState(kind);
     house.baseRoom.undo.showState(kind);

@@ -1,10 +1,12 @@
 #include "base/folders.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "base/base_tree.h"
 #include "core/paths.h"
 #include "core/text.h"
+#include "journal/pending_record.h"
 #include "platform/file_error.h"
 
 namespace velmora::base {
@@ -23,9 +25,11 @@ bool Folders::PostojiDir(TextView path) {
   // A base whose disk is not there must not be begun anew in its place.
   if (!parts_.files.folderExists(Text(core::paths::folderPart(folder))))
     throw FileError(FileError::pathNotFound);
+  std::optional<journal::PendingRecord> record;
   if (parts_.table.aktivniprozor == newMusicWindow)
-    parts_.journal.appendUndoRecord("mkd", core::trim(folder), {});
+    record.emplace(parts_.journal, "mkd", core::trim(folder), TextView());
   parts_.files.makeFolder(folder);
+  if (record) record->keep();
   return false;
 }
 

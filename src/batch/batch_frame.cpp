@@ -27,7 +27,7 @@ void BatchFrame::run(const Text& caption, const std::vector<int>& rows,
   if (rows.empty()) return;
   parts_.closing.run([&] {
     parts_.progress.show(caption);
-    journal::openUndoGroup(parts_.journal, parts_.form1);
+    auto group = journal::openUndoGroup(parts_.journal, parts_.form1);
     parts_.data.beginChange();
     try {
       const rows::ArtistBook::Batch artists(parts_.artists);
@@ -35,6 +35,7 @@ void BatchFrame::run(const Text& caption, const std::vector<int>& rows,
     } catch (const platform::FileError&) {
       // The walk ends here, and what was done before stays done.
     }
+    group.end();
     parts_.data.savenizove(parts_.table);
     parts_.data.SaveID3nizove(parts_.table);
     const int row = parts_.table.currentRow;

@@ -1,10 +1,12 @@
 #include "batch/renamer.h"
 
+#include <optional>
 #include <utility>
 
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
+#include "journal/pending_record.h"
 #include "journal/undo_record.h"
 #include "names/grammar.h"
 #include "tags/field_boxes.h"
@@ -33,6 +35,8 @@ rows::RenameResult Renamer::PromeniIme(int row, bool withUndo) {
     try {
       rename(row, withUndo);
       return rows::RenameResult::Done;
+    } catch (const journal::NotRecorded&) {
+      throw;
     } catch (const FileError& error) {
       const rows::RenameResult answer = rows::askAboutRename(
           parts_.dialogs, u"Error While Renaming File " + parts_.table.path(row) + u" #" +
@@ -54,9 +58,8 @@ void Renamer::rename(int row, bool withUndo) {
   platform::FileHandOver handOver(parts_.player, old.path);
   if (handOver.held() && parts_.desktop.systemVersion() < pauseBelowVersion)
     parts_.desktop.sleep(pauseMilliseconds);
-  const Text newPath = moveToFreeName(old.path);
+  const Text newPath = moveToFreeName(row, withUndo);
   if (newPath == old.path) return;
-  if (withUndo) record(row, newPath);
   handOver.renamed(newPath);
   table.track(row).nizdes = newPath;
   showNewPath(row, old, newPath);
@@ -78,11 +81,12 @@ void Renamer::cleanBox() {
 }
 
 Text Renamer::pathFromBox(const Text& oldPath) const {
-  return Text(core::paths::folderPart(oldPath)) + parts_.form1.Text1.text() +
-         Text(core::right(oldPath, extensionLength));
+  return core::canonical(Text(core::paths::folderPart(oldPath)) + parts_.form1.Text1.text() +
+                         Text(core::right(oldPath, extensionLength)));
 }
 
-Text Renamer::moveToFreeName(const Text& oldPath) {
+Text Renamer::moveToFreeName(int row, bool withUndo) {
+  const Text oldPath = parts_.table.path(row);
   ui::TextBox& box = parts_.form1.Text1;
   const auto addBlank = [&box] { box.setText(box.text() + u' '); };
   for (;; addBlank()) {
@@ -91,21 +95,16 @@ Text Renamer::moveToFreeName(const Text& oldPath) {
     // The file itself would be found under a name that differs in capitals alone; the move tells then.
     if (!sameButForCapitals(newPath, oldPath) && parts_.files.fileExists(newPath)) continue;
     try {
+      std::optional<journal::PendingRecord> record;
+      if (withUndo)
+        record.emplace(parts_.journal, "ren", newPath,
+                       journal::renamePayload(parts_.table, row, parts_.files.identity(oldPath)));
       parts_.files.move(oldPath, newPath);
+      if (record) record->keep();
       return newPath;
     } catch (const FileError& error) {
       if (error.number != FileError::fileExists || !parts_.files.fileExists(oldPath)) throw;
     }
-  }
-}
-
-void Renamer::record(int row, const Text& newPath) {
-  try {
-    parts_.journal.appendUndoRecord("ren", newPath, journal::renamePayload(parts_.table, row));
-  } catch (const FileError&) {
-    // What cannot be taken back must not stay.
-    parts_.files.move(newPath, parts_.table.path(row));
-    throw;
   }
 }
 

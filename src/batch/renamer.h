@@ -39,7 +39,7 @@ class Renamer {
   /// Gives the file of `row` the name in the name box, cleaned and, where another file has it, with blanks
   /// behind it; the box shows the name that was taken. With `withUndo` the rename is journalled, and tags
   /// that equal the old name follow the new one. A name that is the old one, or empty, changes nothing.
-  /// Failures are shown.
+  /// Failures are shown; throws journal::NotRecorded, and nothing is changed then.
   rows::RenameResult PromeniIme(int row, bool withUndo);
 
  private:
@@ -49,9 +49,8 @@ class Renamer {
   void rename(int row, bool withUndo);
   void cleanBox();
   Text pathFromBox(const Text& oldPath) const;
-  /// Moves the file under the first free name and returns that path; `oldPath` when it stays where it is.
-  Text moveToFreeName(const Text& oldPath);
-  void record(int row, const Text& newPath);
+  /// Moves the file under the first free name and returns that path; the old one when it stays where it is.
+  Text moveToFreeName(int row, bool withUndo);
   void showNewPath(int row, const OldName& old, const Text& newPath);
   void findDash(int row, const OldName& old);
   void followWithTags(int row, const OldName& old);

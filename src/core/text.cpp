@@ -65,6 +65,11 @@ Bytes toBytes(TextView text) {
   return out;
 }
 
+Text canonical(Text name) {
+  const bool stray = std::ranges::any_of(name, isLow);
+  return stray ? fromBytes(toBytes(name)) : name;
+}
+
 Text ascii(std::string_view literal) {
   return Text(literal.begin(), literal.end());
 }

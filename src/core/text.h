@@ -9,6 +9,9 @@ namespace velmora::core {
 Text fromBytes(BytesView bytes);
 /// UTF-8 bytes of a text, with U+DC80 to U+DCFF turned back into the bytes they stand for.
 Bytes toBytes(TextView text);
+/// The form in which a name comes back from the disk: bytes that were none of UTF-8 may have come to stand
+/// together as a letter. For every name that is put together from parts, before it goes anywhere.
+Text canonical(Text name);
 /// Text of a literal that holds ASCII alone.
 Text ascii(std::string_view literal);
 

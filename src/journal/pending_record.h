@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
 #include "journal/undo_journal.h"
@@ -11,20 +11,26 @@ namespace velmora::journal {
 /// done; else it is cut off again, so that no undo acts on what never happened.
 class PendingRecord {
  public:
-  /// Writes the record. Throws FileError when it could not be written: the change must not be made then.
-  PendingRecord(UndoJournal& journal, std::string_view kind, TextView first, TextView rest);
+  /// Writes the record. Throws NotRecorded: the change must not be made then.
+  PendingRecord(UndoJournal& journal, std::string_view kind, TextView first, TextView rest)
+      : PendingRecord(journal, {{kind, first, rest}}) {}
+  /// The same for a change of several records, the first one undone last.
+  PendingRecord(UndoJournal& journal, std::initializer_list<NewRecord> records)
+      : journal_(journal), place_(journal.appendChange(records)) {}
   PendingRecord(const PendingRecord&) = delete;
   PendingRecord& operator=(const PendingRecord&) = delete;
-  /// Cuts the record off unless it was kept; what other records stand behind it goes with it. A record that
-  /// cannot be cut off stays: undo passes over a change that is not there.
-  ~PendingRecord();
+  /// Cuts the records off unless they were kept, or others stand behind them: undo passes over a change that
+  /// is not there.
+  ~PendingRecord() {
+    if (!kept_) journal_.withdraw(place_);
+  }
 
   /// The change has begun to reach the disk.
   void keep() { kept_ = true; }
 
  private:
   UndoJournal& journal_;
-  std::uint64_t offset_;  // where the record begins, in bytes
+  UndoJournal::Place place_;
   bool kept_ = false;
 };
 

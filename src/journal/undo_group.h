@@ -5,11 +5,13 @@
 
 namespace velmora::journal {
 
-/// One undoable operation of the Processing Window starts here: the marker, and what is selected now. Throws
-/// FileError; nothing must be changed then.
-inline void openUndoGroup(UndoJournal& journal, const ui::Form1& form1) {
+/// One undoable operation of the Processing Window starts here: the marker, and what is selected now. The
+/// group lasts as long as its changes. Throws NotRecorded; nothing must be changed then.
+[[nodiscard]] inline UndoJournal::Group openUndoGroup(UndoJournal& journal, const ui::Form1& form1) {
+  UndoJournal::Group group(journal);
   journal.appendUndoMarker("st1");
   journal.appendUndoRecord("bi1", selectionSnapshot(form1), {});
+  return group;
 }
 
 }  // namespace velmora::journal

@@ -40,10 +40,20 @@ Bytes lineOf(TextView record) {
 }
 
 void appendPrefixed(Text& out, TextView text) {
-  constexpr std::size_t fewestDigits = 3;
+  constexpr std::size_t digitsOfAll = 3;
   const Text digits = core::plain(static_cast<std::int64_t>(text.size()));
-  if (digits.size() < fewestDigits) out.append(fewestDigits - digits.size(), u'0');
-  out.append(digits).append(text);
+  if (digits.size() > digitsOfAll)
+    out.append(u"#").append(digits).append(u":");
+  else
+    out.append(digitsOfAll - digits.size(), u'0').append(digits);
+  out.append(text);
+}
+
+Text recordOf(const NewRecord& from) {
+  Text record = core::ascii(from.kind);
+  record.reserve(record.size() + from.first.size() + from.rest.size() + roomForLength);
+  appendPrefixed(record, from.first);
+  return record.append(u" ").append(from.rest);
 }
 
 }  // namespace
@@ -52,35 +62,113 @@ UndoJournal::UndoJournal(platform::Files& files, const core::Settings& settings,
     : files_(files), settings_(settings), path_(std::move(path)) {}
 
 void UndoJournal::appendUndoRecord(std::string_view kind, TextView first, TextView rest) {
-  Text record = core::ascii(kind);
-  record.reserve(record.size() + first.size() + rest.size() + roomForLength);
-  appendPrefixed(record, first);
-  record.append(u" ").append(rest);
-  append(record);
+  append(lineOf(recordOf({kind, first, rest})));
 }
 
 void UndoJournal::appendUndoMarker(std::string_view kind) {
-  append(core::ascii(kind));
+  append(lineOf(core::ascii(kind)));
   if (onMarker) onMarker(kind);
 }
 
-void UndoJournal::append(TextView record) {
-  Bytes line;
-  // A line torn by a crash or a full disk must not swallow this one. After an append of our own the end is
-  // known.
-  if (!std::exchange(whole_, false) && endsTorn()) line = lineEnd;
-  line += lineOf(record);
-  files_.append(path_, line);
-  whole_ = true;
+UndoJournal::Place UndoJournal::appendChange(std::initializer_list<NewRecord> records) {
+  constexpr int mostUnsynced = 256;
+  Bytes lines;
+  for (const NewRecord& record : records) lines += lineOf(recordOf(record));
+  const Group group(*this);
+  const Place place = append(lines);
+  if (changed_ && ++unsynced_ < mostUnsynced) return place;
+  try {
+    sync();
+  } catch (const platform::FileError&) {
+    withdraw(place);
+    throw;
+  }
+  changed_ = true;
+  return place;
 }
 
-bool UndoJournal::endsTorn() const {
-  if (!files_.fileExists(path_)) return false;
-  const auto file = files_.open(path_, platform::OpenMode::Read);
-  const std::uint64_t size = file->size();
-  char last = lineEnd.back();
-  if (size > 0) file->readAt(size - 1, {&last, 1});
-  return last != lineEnd.back();
+void UndoJournal::withdraw(const Place& place) {
+  const Group group(*this);
+  try {
+    if (openEnd() != place.end) return;
+    file_->cutTo(place.begin);
+    end_ = place.begin;
+  } catch (const platform::FileError&) {
+    // The record stays, and undo finds nothing to take back.
+  }
+}
+
+void UndoJournal::openGroup() {
+  if (groups_++ > 0) return;
+  changed_ = false;
+  told_ = false;
+  files_.beforeRemoval([this] { sync(); });
+}
+
+void UndoJournal::closeGroup() noexcept {
+  if (--groups_ > 0) return;
+  files_.beforeRemoval(nullptr);
+  try {
+    if (dirty_ && file_) file_->flush();
+  } catch (const platform::FileError&) {
+    // All changes are made, and their records stand as far as the system is concerned.
+  }
+  dirty_ = false;
+  unsynced_ = 0;
+  file_.reset();
+}
+
+void UndoJournal::sync() {
+  if (!dirty_ || !file_) return;
+  try {
+    file_->flush();
+  } catch (const platform::FileError& cause) {
+    fail(cause);
+  }
+  dirty_ = false;
+  unsynced_ = 0;
+}
+
+/// Opens the file where it is not yet, and returns its length.
+std::uint64_t UndoJournal::openEnd() {
+  if (!file_) {
+    file_ = exists() ? files_.open(path_, platform::OpenMode::ReadWrite) : files_.create(path_);
+    end_ = 0;
+  }
+  return file_->size();
+}
+
+UndoJournal::Place UndoJournal::append(BytesView lines) {
+  const Group group(*this);
+  try {
+    std::uint64_t begin = openEnd();
+    // A line torn by a crash or a full disk must not swallow this one.
+    if (begin > 0 && begin != end_) {
+      char last = lineEnd.back();
+      file_->readAt(begin - 1, {&last, 1});
+      if (last != lineEnd.back()) {
+        file_->writeAt(begin, lineEnd);
+        begin += lineEnd.size();
+      }
+    }
+    dirty_ = true;
+    try {
+      file_->writeAt(begin, lines);
+    } catch (const platform::FileError&) {
+      end_ = 0;
+      file_->cutTo(begin);
+      throw;
+    }
+    end_ = begin + lines.size();
+    return {begin, end_};
+  } catch (const platform::FileError& cause) {
+    fail(cause);
+  }
+}
+
+void UndoJournal::fail(const platform::FileError& cause) {
+  if (!std::exchange(told_, true) && onNotRecorded) onNotRecorded(cause);
+  throw NotRecorded(cause);
 }
 
 std::string UndoJournal::lastUndoMarker() const {
@@ -118,7 +206,7 @@ void UndoJournal::visitFromNewest(
 
 void UndoJournal::cutAt(std::uint64_t offset) {
   if (!exists()) return;
-  whole_ = false;
+  end_ = 0;
   files_.open(path_, platform::OpenMode::ReadWrite)->cutTo(offset);
 }
 
@@ -127,7 +215,7 @@ std::uint64_t UndoJournal::size() const {
 }
 
 void UndoJournal::remove() {
-  whole_ = false;
+  file_.reset();
   if (!exists()) return;
   try {
     files_.remove(path_);

@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t kindLength = 3;
 constexpr std::size_t lengthDigits = 3;
+constexpr std::size_t mostDigits = 9;  // of the length of a field that three digits cannot tell
 
 bool isDigit(char16_t character) {
   return character >= u'0' && character <= u'9';
@@ -37,26 +38,35 @@ std::optional<Number> parseNumber(TextView text) {
 }  // namespace
 
 std::optional<TextView> FieldReader::next() {
-  const TextView text = std::exchange(left_, {});
-  if (text.size() < lengthDigits) return std::nullopt;
+  TextView text = std::exchange(left_, {});
+  std::size_t digits = lengthDigits;
+  const bool longField = text.starts_with(u'#');
+  if (longField) {
+    text.remove_prefix(1);
+    digits = text.find(u':');
+    if (digits == 0 || digits > mostDigits) return std::nullopt;
+  }
+  if (text.size() < digits) return std::nullopt;
   std::size_t length = 0;
-  for (const char16_t digit : text.substr(0, lengthDigits)) {
+  for (const char16_t digit : text.substr(0, digits)) {
     if (!isDigit(digit)) return std::nullopt;
     length = length * 10 + (digit - u'0');
   }
-  if (text.size() - lengthDigits < length) return std::nullopt;
-  left_ = text.substr(lengthDigits + length);
-  return text.substr(lengthDigits, length);
+  text.remove_prefix(digits + (longField ? 1 : 0));
+  if (text.size() < length) return std::nullopt;
+  left_ = text.substr(length);
+  return text.substr(0, length);
 }
 
 namespace {
 
-/// A snapshot of thousands of selected rows is longer than three digits can tell. Nothing but a blank follows
-/// it, so a longer count can be read wherever it fits the line exactly.
+/// A snapshot of thousands of selected rows as older versions wrote it: more than three digits, with nothing
+/// to tell where they end. Nothing but a blank follows it, so the count can be read where it fits the line
+/// exactly.
 std::optional<TextView> longSelection(TextView fields) {
   std::size_t digits = 0;
   std::size_t length = 0;
-  while (digits < fields.size() && digits < 9 && isDigit(fields[digits]))
+  while (digits < fields.size() && digits < mostDigits && isDigit(fields[digits]))
     length = length * 10 + (fields[digits++] - u'0');
   if (digits <= lengthDigits || fields.size() != digits + length + 1 || fields.back() != u' ')
     return std::nullopt;
@@ -85,9 +95,9 @@ std::optional<int> parseRow(TextView text) {
   return row && *row >= 1 ? row : std::nullopt;
 }
 
-Text renamePayload(const core::TrackTable& table, int row) {
+Text renamePayload(const core::TrackTable& table, int row, TextView identity) {
   return lengthPrefixed(core::number(std::int64_t{row})) + lengthPrefixed(table.path(row)) +
-         lengthPrefixed(table.track(row).crtapos.text());
+         lengthPrefixed(table.track(row).crtapos.text()) + lengthPrefixed(identity);
 }
 
 std::optional<RenamePayload> parseRenamePayload(TextView text) {
@@ -95,10 +105,12 @@ std::optional<RenamePayload> parseRenamePayload(TextView text) {
   const auto row = fields.next();
   const auto path = fields.next();
   const auto crtapos = fields.next();
-  if (!row || !path || !crtapos || !fields.left().empty()) return std::nullopt;
+  if (!row || !path || !crtapos) return std::nullopt;
+  const auto identity = fields.left().empty() ? std::optional<TextView>(TextView()) : fields.next();
+  if (!identity || !fields.left().empty()) return std::nullopt;
   const std::optional<int> rowNumber = parseRow(*row);
   if (!rowNumber || path->empty()) return std::nullopt;
-  return RenamePayload{*rowNumber, Text(*path), Text(*crtapos)};
+  return RenamePayload{*rowNumber, Text(*path), Text(*crtapos), Text(*identity)};
 }
 
 Text deletedFile(std::uint64_t size, TextView path) {

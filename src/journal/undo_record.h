@@ -8,8 +8,8 @@
 #include "platform/text.h"
 
 /// The records of the undo journal taken apart again. A record is three letters of kind, and for data records
-/// L(first), a blank and the rest, where L(x) is the length of x in three digits and x; docs/formats.md has
-/// them all. Everything here reads any text: what does not fit gives nothing, never a part of the truth.
+/// L(first), a blank and the rest, where L(x) is the length of x and x (see lengthPrefixed); docs/formats.md
+/// has them all. Everything here reads any text: what does not fit gives nothing, never a part of the truth.
 namespace velmora::journal {
 
 /// One line of the journal. The kind is the first three letters, whatever follows.
@@ -46,9 +46,10 @@ struct RenamePayload {
   int row;
   Text path;
   Text crtapos;
+  Text identity;  ///< that of the file (Files::identity); empty in records of older versions
 };
-/// L(row) L(path) L(dash position) of a row as it is now.
-Text renamePayload(const core::TrackTable& table, int row);
+/// L(row) L(path) L(dash position) of a row as it is now, and L(identity) of its file.
+Text renamePayload(const core::TrackTable& table, int row, TextView identity);
 std::optional<RenamePayload> parseRenamePayload(TextView text);
 
 /// `first` of a "del" record.

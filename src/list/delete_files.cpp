@@ -92,8 +92,9 @@ void DeleteFiles::deleteRows(std::vector<int> rows, bool withSelection) {
   rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
   if (rows.empty()) return;
   parts_.closing.run([&] {
+    journal::UndoJournal::Group group(parts_.journal);
     if (withSelection)
-      journal::openUndoGroup(parts_.journal, parts_.form1);
+      journal::openUndoGroup(parts_.journal, parts_.form1).end();
     else
       parts_.journal.appendUndoMarker("st1");
     parts_.data.beginChange();
@@ -156,7 +157,7 @@ bool DeleteFiles::sendToTrash(const Text& path, Text& trashPath) {
 
 void DeleteFiles::deleteOthers() {
   parts_.closing.run([this] {
-    journal::openUndoGroup(parts_.journal, parts_.form1);
+    const auto group = journal::openUndoGroup(parts_.journal, parts_.form1);
     parts_.progress.show(u"Delete ...");
     ui::ListBox& list = parts_.form1.List4;
     std::vector<Text>& others = parts_.table.niznomusic;

@@ -98,7 +98,7 @@ void MoveCommands::run(MoveColumn column, const Text& caption,
   {
     const base::ActiveWindow atWork(parts_.table, newMusicWindow);
     const base::Busy busy(parts_.windows, parts_.progress, caption);
-    openMusicUndoGroup(parts_.journal, parts_.snapshot);
+    auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
     parts_.data.beginChange();
     AfterMove after({parts_.table, parts_.windows, parts_.base, parts_.lists});
     Text target;
@@ -112,13 +112,13 @@ void MoveCommands::run(MoveColumn column, const Text& caption,
     parts_.progress.setText(moving);
     // Artists that leave the list are looked for here; all is listed anew in the end.
     form2_.List2.Clear();
-    apply(moves);
+    apply(moves, group);
     after.restore(column, target);
   }
   parts_.summary.moze();
 }
 
-void MoveCommands::apply(const std::vector<PlannedMoves>& plan) {
+void MoveCommands::apply(const std::vector<PlannedMoves>& plan, journal::UndoJournal::Group& group) {
   double bytes = 0;
   try {
     const rows::ArtistBook::Batch artists(parts_.artists);
@@ -127,6 +127,7 @@ void MoveCommands::apply(const std::vector<PlannedMoves>& plan) {
   } catch (const platform::FileError&) {
     // Nothing more goes when it cannot be journalled.
   }
+  group.end();
   core::TrackTable& table = parts_.table;
   table.velicinasfiles = std::max(0.0, table.velicinasfiles - bytes);
   parts_.settings.set(u"velicinasfiles", core::number(table.velicinasfiles));

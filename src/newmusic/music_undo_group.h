@@ -10,10 +10,13 @@ namespace velmora::newmusic {
 inline constexpr int newMusicWindow = 2;
 
 /// One undoable operation of the New Music Window starts here: the marker, and what both windows show now.
-/// Throws FileError; nothing must be changed then.
-inline void openMusicUndoGroup(journal::UndoJournal& journal, WindowSnapshot& snapshot) {
+/// The group lasts as long as its changes. Throws NotRecorded; nothing must be changed then.
+[[nodiscard]] inline journal::UndoJournal::Group openMusicUndoGroup(journal::UndoJournal& journal,
+                                                                    WindowSnapshot& snapshot) {
+  journal::UndoJournal::Group group(journal);
   journal.appendUndoMarker("st2");
   journal.appendUndoRecord("biv", snapshot.windowStateSnapshot(), {});
+  return group;
 }
 
 }  // namespace velmora::newmusic

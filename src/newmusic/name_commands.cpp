@@ -21,7 +21,7 @@ void NameCommands::refuse(const Text& text) {
 
 void NameCommands::nameGenre() {
   if (!parts_.newFolders.haveRoot()) return;
-  openMusicUndoGroup(parts_.journal, parts_.snapshot);
+  const auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
   const base::ActiveWindow atWork(parts_.table, newMusicWindow);
   form3_.Combo1.setText(form2_.Combo1.text());
   parts_.newFolders.newGenre();
@@ -29,7 +29,7 @@ void NameCommands::nameGenre() {
 
 void NameCommands::nameArtist() {
   if (form3_.List1.SelCount() != 1) return refuse(u"Select only ONE item in genre list from Base.");
-  openMusicUndoGroup(parts_.journal, parts_.snapshot);
+  const auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
   const base::ActiveWindow atWork(parts_.table, newMusicWindow);
   clickSelected(form3_.List1);
   form3_.Text2.setText(form2_.Text2.text());
@@ -39,7 +39,7 @@ void NameCommands::nameArtist() {
 void NameCommands::nameAlbum() {
   if (form3_.List1.SelCount() != 1 || form3_.List2.SelCount() != 1)
     return refuse(u"Select only ONE item in genre and artist list from Base.");
-  openMusicUndoGroup(parts_.journal, parts_.snapshot);
+  const auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
   const base::ActiveWindow atWork(parts_.table, newMusicWindow);
   clickSelected(form3_.List2);
   form3_.Text3.setText(Text(core::trim(form2_.Text3.text())) + u"  " + Text(core::trim(form2_.Text5.text())));

@@ -3,6 +3,7 @@
 #include <compare>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -99,6 +100,16 @@ class Files {
   virtual void removeEmptyFolder(const Text& path) = 0;
   /// Takes read-only and its like off a file, so that its owner can write it.
   virtual void clearAttributes(const Text& path) = 0;
+
+  /// A text that a file keeps wherever it goes on its volume, and that no other file there bears, not even
+  /// one that is made when this one is gone. Empty where the system does not tell. Never throws.
+  virtual Text identity(const Text& path) {
+    static_cast<void>(path);
+    return {};
+  }
+  /// What a move to another volume calls once the copy is whole and before the source goes; nothing to call
+  /// with nullptr. It may throw: the move then fails with that, and the source stays.
+  virtual void beforeRemoval(std::function<void()> call) { static_cast<void>(call); }
 
   /// True when another program holds the file, so that an exclusive lock cannot be had. A file that is
   /// missing or may not be opened is not busy. Never throws.

@@ -7,6 +7,7 @@
 #include <limits.h>
 #include <memory>
 #include <stdlib.h>
+#include <string>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <utility>
@@ -262,11 +263,11 @@ void PosixFiles::makeFolder(const Text& path) {
 }
 
 void PosixFiles::move(const Text& from, const Text& to) {
-  moveEntry(nativePath(from), nativePath(to));
+  moveEntry(nativePath(from), nativePath(to), beforeRemoval_);
 }
 
 void PosixFiles::moveFolder(const Text& from, const Text& to) {
-  moveEntry(nativePath(from), nativePath(to));
+  moveEntry(nativePath(from), nativePath(to), beforeRemoval_);
 }
 
 void PosixFiles::replace(const Text& from, const Text& to) {
@@ -288,6 +289,17 @@ void PosixFiles::clearAttributes(const Text& path) {
   const struct stat status = statusOf(native);
   if (status.st_mode & S_IWUSR) return;
   if (::chmod(native.c_str(), (status.st_mode | S_IWUSR) & 07777) != 0) throwErrno(native);
+}
+
+/// The number of the file's node and the moment at which that was made.
+Text PosixFiles::identity(const Text& path) {
+  struct statx status;
+  if (::statx(AT_FDCWD, core::toBytes(path).c_str(), AT_SYMLINK_NOFOLLOW, STATX_INO | STATX_BTIME, &status) !=
+          0 ||
+      (status.stx_mask & (STATX_INO | STATX_BTIME)) != (STATX_INO | STATX_BTIME))
+    return {};
+  return core::ascii(std::to_string(status.stx_ino) + '.' + std::to_string(status.stx_btime.tv_sec) + '.' +
+                     std::to_string(status.stx_btime.tv_nsec));
 }
 
 bool PosixFiles::busy(const Text& path) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "platform/files.h"
 
 namespace velmora::system {
@@ -23,12 +26,15 @@ class PosixFiles final : public platform::Files {
   void remove(const Text& path) override;
   void removeEmptyFolder(const Text& path) override;
   void clearAttributes(const Text& path) override;
+  Text identity(const Text& path) override;
+  void beforeRemoval(std::function<void()> call) override { beforeRemoval_ = std::move(call); }
   bool busy(const Text& path) override;
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;
   std::vector<Text> volumes() override;
 
  private:
+  std::function<void()> beforeRemoval_;
   Bytes appendedLast_;  // a file that bytes may be added to, as a look has told
 };
 

@@ -64,11 +64,12 @@ void flushFolder(const Bytes& folder) {
 
 /// To another volume: the copy becomes visible under its name when it is whole and on the disk, and only then
 /// the source goes.
-void moveAcross(const Bytes& from, const Bytes& to) {
+void moveAcross(const Bytes& from, const Bytes& to, const std::function<void()>& beforeRemoval) {
   struct stat taken;
   if (::lstat(to.c_str(), &taken) == 0) throw FileError(FileError::fileExists);
   UnfinishedCopy copy(temporaryBeside(to));
   copyEntry(from, copy.path());
+  if (beforeRemoval) beforeRemoval();
   if (const int code = renameNoReplace(copy.path(), to)) throwFileError(code, to);
   copy.keep();
   flushFolder(parentOf(to));
@@ -169,7 +170,7 @@ int renameNoReplace(const Bytes& from, const Bytes& to) {
   return errno == EINVAL || errno == ENOSYS ? renameByLink(from, to) : errno;
 }
 
-void moveEntry(const Bytes& from, const Bytes& to) {
+void moveEntry(const Bytes& from, const Bytes& to, const std::function<void()>& beforeRemoval) {
   if (from == to) {
     struct stat status;
     if (::lstat(from.c_str(), &status) != 0) throwErrno(from);
@@ -177,7 +178,7 @@ void moveEntry(const Bytes& from, const Bytes& to) {
   }
   if (to.starts_with(from + '/')) throw FileError(FileError::pathAccess);  // a folder into itself
   const int code = renameNoReplace(from, to);
-  if (code == EXDEV) moveAcross(from, to);
+  if (code == EXDEV) moveAcross(from, to, beforeRemoval);
   if (code == 0 || code == EXDEV) {
     keepLead(from, to);
   } else if (code == EEXIST && onlyRespelled(from, to)) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/text.h"
 
 /// Moves that never overwrite and never lose a file, on native paths. All throw FileError.
@@ -7,8 +9,9 @@ namespace velmora::system {
 
 /// Gives a file, link or folder a new path, within a volume or across. The target name must be free, save
 /// for a change of capitals alone on a disk that does not tell them apart. A failure leaves the source whole
-/// and nothing half done at the target.
-void moveEntry(const Bytes& from, const Bytes& to);
+/// and nothing half done at the target. To another volume, `beforeRemoval` is called when the copy is whole,
+/// before the source goes.
+void moveEntry(const Bytes& from, const Bytes& to, const std::function<void()>& beforeRemoval = {});
 
 /// Puts `from` in the place of the file that `to` is or leads to, with that file's mode and owner.
 void replaceFile(const Bytes& from, const Bytes& to);

@@ -225,8 +225,11 @@ void expectUntouched(void (House::*script)()) {
   std::filesystem::remove(walk.program.folder.native(u"program/UndoData.txt"));
   walk.program.folder.mkdir(u"program/UndoData.txt");
   const TreeSnapshot before = TreeSnapshot::of(walk.music());
+  walk.program.dialogs.shown.clear();
+  walk.program.dialogs.otherwise = goOn;
   (walk.*script)();
   EXPECT_EQ(TreeSnapshot::of(walk.music()), before);
+  EXPECT_EQ(walk.program.dialogs.shown.size(), 3u) << "each command says it once";
   walk.expectNothingLost();
 }
 

@@ -136,22 +136,27 @@ TEST_F(RenamerTest, AFailureAsksAndRetryTriesAgain) {
   EXPECT_EQ(names(), (Names{"Arvola - New"}));
 }
 
-TEST_F(RenamerTest, ARenameThatCannotBeJournalledIsTakenBack) {
+TEST_F(RenamerTest, ARenameThatCannotBeJournalledIsNotDone) {
   add({{u"Arvola - Song"}});
   select({u"Arvola - Song"});
   form1().Text1.setText(u"Arvola - New");
-  int appends = 0;
+  int writes = 0;
   program.faults.onOperation = [&] {
-    // The third append is that of the rename, behind marker and selection.
-    if (program.faults.log.back().starts_with("append") && ++appends == 3)
+    // The third write is that of the rename, behind marker and selection.
+    const std::string& line = program.faults.log.back();
+    if (line.starts_with("file write") && line.ends_with("UndoData.txt") && ++writes == 3)
       program.faults.failAt(1, platform::FileError::diskFull);
   };
-  program.dialogs.expectTitle(u"Rename", platform::Answer::Abort);
+  program.dialogs.expect(
+      u"The undo journal cannot be written: Disk full. What could not be undone is not done, "
+      u"and the command ends here.",
+      u"Undo", platform::Answer::Ok);
   click(tools().rename);
   program.faults.onOperation = nullptr;
   program.faults.failNoMore();
   EXPECT_EQ(names(), (Names{"Arvola - Song"}));
   EXPECT_EQ(listed(), names());
+  EXPECT_EQ(kinds(), (Names{"st1", "bi1"}));
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 #include "journal/undo_journal.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
+#include "core/text.h"
+#include "journal/pending_record.h"
 #include "journal/undo_record.h"
 #include "platform/file_error.h"
 #include "system/posix_files.h"
+#include "tests/support/fault_files.h"
 #include "tests/support/temp_folder.h"
 
 namespace velmora::journal {
@@ -36,11 +40,96 @@ TEST_F(UndoJournalTest, EachRecordIsOneQuotedLine) {
   EXPECT_EQ(journal.readRecords(), (Texts{u"st1", u"mov008/a/\u0161.mp3 /b", u"mkd004/new "}));
 }
 
-TEST_F(UndoJournalTest, LengthsCountCharactersAndHaveAtLeastThreeDigits) {
-  EXPECT_EQ(lengthPrefixed(u""), u"000");
+TEST_F(UndoJournalTest, LengthsCountCharactersAndTellLongTextsByAMark) {
   EXPECT_EQ(lengthPrefixed(u" 12"), u"003 12");
-  EXPECT_EQ(lengthPrefixed(Text(999, u'x')).substr(0, 4), u"999x");
-  EXPECT_EQ(lengthPrefixed(Text(1000, u'x')).substr(0, 5), u"1000x") << "which no reader takes";
+  EXPECT_EQ(lengthPrefixed(Text(1000, u'1')).substr(0, 8), u"#1000:11");
+  for (const std::size_t length : {0u, 1u, 999u, 1000u, 123456u}) {
+    const Text text(length, u'1');
+    journal.appendUndoRecord("mov", text, u"rest");
+    const Text line = journal.readRecords().back();
+    const auto data = parseUndoRecord(line).data;
+    ASSERT_TRUE(data) << length;
+    EXPECT_EQ(data->first, text);
+    EXPECT_EQ(data->rest, u"rest");
+  }
+  for (const TextView bad : {u"#", u"#:", u"#3", u"#3:ab", u"#x:a", u"#1234567890:"})
+    EXPECT_FALSE(FieldReader(bad).next()) << core::toBytes(bad);
+}
+
+struct JournalGroup : UndoJournalTest {
+  test::FaultFiles faults{files};
+  UndoJournal watched{faults, settings, folder.path(u"UndoData.txt")};
+
+  void change() { PendingRecord(watched, "ren", u"/b", u"/a").keep(); }
+  std::ptrdiff_t count(std::string_view operation) const {
+    return std::ranges::count_if(faults.log, [&](const auto& line) { return line.starts_with(operation); });
+  }
+};
+
+TEST_F(JournalGroup, OpensTheFileOnceAndBringsItToTheDiskAtItsTimes) {
+  const auto flushes = [this] { return count("file flush"); };
+  {
+    UndoJournal::Group group(watched);
+    watched.appendUndoMarker("st1");
+    EXPECT_EQ(flushes(), 0);
+    change();
+    EXPECT_EQ(flushes(), 1) << "ahead of the first change";
+    for (int i = 0; i < 255; ++i) change();
+    EXPECT_EQ(flushes(), 1);
+    change();
+    EXPECT_EQ(flushes(), 2);
+    const UndoJournal::Group inner(watched);
+    EXPECT_EQ(watched.lastUndoMarker(), "st1") << "readable all the time";
+  }
+  EXPECT_EQ(flushes(), 2) << "all was there";
+  EXPECT_EQ(count("create") + count("open to write"), 1);
+  {
+    UndoJournal::Group group(watched);
+    change();
+    change();
+    group.end();
+    EXPECT_EQ(flushes(), 4) << "the first, and the end";
+  }
+  EXPECT_EQ(journal.readRecords().size(), 260u);
+}
+
+TEST_F(JournalGroup, ARecordGoesAgainWhereItsChangeWasNotMade) {
+  watched.appendUndoMarker("st1");
+  const Bytes before = bytes();
+  { const PendingRecord pending(watched, {{"izb", u" 1", u"x"}, {"mov", u"/a", u"/b"}}); }
+  EXPECT_EQ(bytes(), before);
+  {
+    const PendingRecord pending(watched, "mov", u"/a", u"/b");
+    journal.appendUndoMarker("st2");
+  }
+  EXPECT_EQ(journal.readRecords().size(), 3u) << "what another program wrote behind it stays";
+  change();
+  EXPECT_EQ(journal.readRecords().size(), 4u);
+}
+
+TEST_F(JournalGroup, AFailureIsToldOnceAndLeavesNothingHalfWritten) {
+  watched.appendUndoMarker("st1");
+  const Bytes before = bytes();
+  faults.tearsWrites = true;
+  int told = 0;
+  watched.onNotRecorded = [&](const platform::FileError& cause) {
+    ++told;
+    EXPECT_EQ(cause.number, platform::FileError::diskFull);
+  };
+  // Opening, its length, its last byte, the write and the flush.
+  for (int nth = 1; nth <= 5; ++nth) {
+    UndoJournal::Group group(watched);
+    faults.failAt(nth, platform::FileError::diskFull);
+    EXPECT_THROW(change(), NotRecorded) << nth;
+    EXPECT_EQ(told, nth);
+    EXPECT_EQ(bytes(), before) << nth;
+    faults.failFrom(1, platform::FileError::diskFull);
+    EXPECT_THROW(change(), NotRecorded) << nth;
+    EXPECT_EQ(told, nth) << "once in a group";
+    faults.failNoMore();
+  }
+  change();
+  EXPECT_EQ(journal.readRecords().size(), 2u);
 }
 
 TEST_F(UndoJournalTest, TheTopmostMarkerIsFoundFromTheEnd) {
@@ -133,13 +222,6 @@ TEST_F(UndoJournalTest, ACutTakesTheNewestRecordsAndLeavesTheRestAsItStands) {
   journal.remove();
   journal.remove();
   EXPECT_FALSE(journal.exists());
-}
-
-TEST_F(UndoJournalTest, ARecordThatCannotBeWrittenIsAFailure) {
-  folder.mkdir(u"UndoData.txt");
-  EXPECT_THROW(journal.appendUndoMarker("st1"), platform::FileError);
-  EXPECT_EQ(journal.lastUndoMarker(), "");
-  journal.remove();
 }
 
 }  // namespace

@@ -37,14 +37,11 @@ TEST(UndoRecord, ADamagedLineKeepsItsKindAndNothingElse) {
     EXPECT_FALSE(parseUndoRecord(damaged).data) << core::toBytes(damaged);
 }
 
-TEST(UndoRecord, ASelectionLongerThanThreeDigitsTellIsReadAllTheSame) {
+TEST(UndoRecord, ALongSelectionOfAnOlderVersionIsRead) {
   const Text snapshot(12345, u' ');
-  const Text selection = record(u"bi1", snapshot, u"");
+  const Text selection = u"bi112345" + snapshot + u" ";
   ASSERT_TRUE(parseUndoRecord(selection).data);
   EXPECT_EQ(parseUndoRecord(selection).data->first, snapshot);
-  const Text path(1234, u'x');
-  const Text move = record(u"mov", path, path);
-  EXPECT_FALSE(parseUndoRecord(move).data) << "a path of that length cannot be told from damage";
 }
 
 TEST(FieldReader, TakesFieldsUntilOneDoesNotFit) {
@@ -70,15 +67,18 @@ TEST(UndoRecord, RenamePayloadComesBack) {
   table.appendPath(u"/music/Arvola - Harbour.mp3");
   table.resizeColumns();
   table.track(1).crtapos = u" 8";
-  const Text payload = renamePayload(table, 1);
-  EXPECT_EQ(payload, u"002 1027/music/Arvola - Harbour.mp3002 8");
+  const Text old = u"002 1027/music/Arvola - Harbour.mp3002 8";
+  ASSERT_TRUE(parseRenamePayload(old)) << "of an older version";
+  const Text payload = renamePayload(table, 1, u"7.5");
+  EXPECT_EQ(payload, old + u"0037.5");
   const auto parsed = parseRenamePayload(payload);
   ASSERT_TRUE(parsed);
   EXPECT_EQ(parsed->row, 1);
   EXPECT_EQ(parsed->path, u"/music/Arvola - Harbour.mp3");
   EXPECT_EQ(parsed->crtapos, u" 8");
+  EXPECT_EQ(parsed->identity, u"7.5");
   for (std::size_t length = 0; length < payload.size(); ++length)
-    EXPECT_FALSE(parseRenamePayload(TextView(payload).substr(0, length)));
+    EXPECT_EQ(parseRenamePayload(TextView(payload).substr(0, length)).has_value(), length == old.size());
   EXPECT_FALSE(parseRenamePayload(payload + u"x"));
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/file_error.h"
@@ -10,7 +11,7 @@
 namespace velmora::test {
 
 /// Passes every operation on to another Files, notes it, and lets the n-th fail. Questions that never throw
-/// (fileExists, folderExists, busy) are neither counted nor failed.
+/// (fileExists, folderExists, identity, busy) are neither counted nor failed.
 class FaultFiles final : public platform::Files {
  public:
   explicit FaultFiles(platform::Files& real) : real_(real) {}
@@ -51,6 +52,8 @@ class FaultFiles final : public platform::Files {
   void remove(const Text& path) override;
   void removeEmptyFolder(const Text& path) override;
   void clearAttributes(const Text& path) override;
+  Text identity(const Text& path) override { return real_.identity(path); }
+  void beforeRemoval(std::function<void()> call) override { real_.beforeRemoval(std::move(call)); }
   bool busy(const Text& path) override { return real_.busy(path); }
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;
