@@ -30,8 +30,9 @@ VELMORA_FUZZ_TARGET(id3v1) {
   if (bytes.empty()) return;  // fails into a dialog
 
   velmora::test::ScriptedDialogs dialogs;
+  velmora::ui::Failures failures(dialogs);
   const velmora::core::TrackTable table;
-  tag.Update({dialogs, table});
+  tag.Update({failures, table});
   const Bytes after = files.get(u"song.mp3");
   const bool had = bytes.size() > 128 && bytes.substr(bytes.size() - 128).starts_with("TAG");
   require(tag.HasID3v1Tag() == had, "a tag is found exactly where one stands");

@@ -31,6 +31,7 @@
 #include "tags/tag_cache.h"
 #include "tags/update_tags.h"
 #include "ui/closing_step.h"
+#include "ui/failures.h"
 #include "ui/option_store.h"
 #include "ui/progress.h"
 #include "ui/tips.h"
@@ -67,12 +68,13 @@ struct House {
   ModalWait modal;
 
   // The commands.
+  ui::Failures failures;
   tags::TagCache tagCache;
   tags::FilePanel panel;
   player::PreviewPlayer player;
   tags::BusyFile busyFile;
-  tags::TagWriter tagWriter;
   journal::UndoJournal journal;
+  tags::TagWriter tagWriter;
   rows::ArtistBook artists;
   list::DashFinder dashes;
   ui::ClosingStep closing;

@@ -17,11 +17,12 @@
 #include "rows/file_mover.h"
 #include "rows/row_keeper.h"
 #include "tags/busy_file.h"
-#include "tags/each_tag_writer.h"
 #include "tags/field_boxes.h"
 #include "tags/file_panel.h"
+#include "tags/tag_cache.h"
 #include "tags/update_tags.h"
 #include "ui/closing_step.h"
+#include "ui/failures.h"
 #include "ui/progress.h"
 #include "ui/windows.h"
 #include "undo/name_restorer.h"
@@ -45,6 +46,8 @@ struct RepairRoom {
     ui::Progress& progress;
     ui::ClosingStep& closing;
     platform::FileHolder& player;
+    ui::Failures& failures;
+    tags::TagCache& tagCache;
     tags::FilePanel& panel;
     tags::BusyFile& busyFile;
     tags::TagWriter& tagWriter;
@@ -55,7 +58,6 @@ struct RepairRoom {
 
   // Names and tags.
   tags::FieldBoxes fields;
-  tags::EachTagWriter eachTagWriter;
   names::SyntaxFixer fixer;
   batch::Renamer renamer;
   batch::BatchFrame frame;

@@ -61,9 +61,6 @@ void wireForm1(House& house) {
   form1.about.onClick = opens(house, form1, house.windows.frmAbout);
   wireLists(house);
 
-  house.tagWriter.onWritten = [&house](int row, const Text& rowSnapshot) {
-    house.journal.appendUndoRecord("id3", core::number(std::int64_t{row}), rowSnapshot);
-  };
   // Without a progress window there is no Stop button, and the mark is one of a command that is over.
   house.busyFile.givenUp = [&house] { return (house.progress.shown() && house.table.Stop) || house.ending; };
   house.listMaker.onCleared = [&house] {

@@ -156,18 +156,22 @@ void FolderCommands::ren(ui::ListBox& column, const Text& busyText, const Renami
 
 /// Returns false when the command has to stop.
 bool FolderCommands::moveFiles(const Renamings& renamings) {
+  ui::Failures failures(parts_.dialogs);
   FolderMoves work(
-      {.files = parts_.files, .dialogs = parts_.dialogs, .player = parts_.player, .folders = parts_.folders});
+      {.files = parts_.files, .failures = failures, .player = parts_.player, .folders = parts_.folders});
   work.onMoving = onMoving;
   for (const Renaming& one : renamings)
     if (work.CollectRename(one.from, one.to)) return false;
-  const auto count = static_cast<double>(work.moves().size());
-  double done = 0;
-  for (const FolderMoves::Move& move : work.moves()) {
-    parts_.progress.UpdateProgress(100 * ++done / count);
-    if (parts_.table.Stop || work.MoveFile(move)) return false;
-  }
-  return true;
+  const std::size_t count = work.moves().size();
+  std::size_t done = 0;
+  failures.during({Text(renameTitle), u"file was not moved", u"files were not moved"}, count, [&] {
+    for (const FolderMoves::Move& move : work.moves()) {
+      parts_.progress.UpdateProgress(100.0 * static_cast<double>(done + 1) / static_cast<double>(count));
+      if (parts_.table.Stop || work.MoveFile(move)) return;
+      ++done;
+    }
+  });
+  return done == count;
 }
 
 void FolderCommands::listAnew(ui::ListBox& column, const Rebuild& rebuild, bool selectSome) {

@@ -30,7 +30,7 @@ bool FolderMoves::CollectRename(TextView source, TextView target) {
     collect(core::equalNoCase(from, to) ? toHolding(from, to) : from, to, from);
     return false;
   } catch (const FileError& error) {
-    parts_.dialogs.message(
+    parts_.failures.dialogs().message(
         u"Unexpected error #" + core::plain(std::int64_t{error.number}) + u" occurred: " + error.description,
         u"Rename", platform::Buttons::Ok, platform::Icon::Critical);
     return true;
@@ -72,8 +72,7 @@ bool FolderMoves::MoveFile(const Move& move) {
     } catch (const FileError& error) {
       const Text text = u"Error while moving " + move.from + u" #" + core::plain(std::int64_t{error.number}) +
                         u" occurred: " + error.description;
-      switch (parts_.dialogs.message(text, u"Move File", platform::Buttons::AbortRetryIgnore,
-                                     platform::Icon::Critical)) {
+      switch (parts_.failures.ask(text, u"Move File", move.from, error.description)) {
         case platform::Answer::Abort:
           return true;
         case platform::Answer::Retry:

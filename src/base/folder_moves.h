@@ -5,9 +5,9 @@
 
 #include "base/folder_walk.h"
 #include "base/folders.h"
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/hand_over.h"
+#include "ui/failures.h"
 
 namespace velmora::base {
 
@@ -17,7 +17,7 @@ class FolderMoves {
  public:
   struct Parts {
     platform::Files& files;
-    platform::Dialogs& dialogs;
+    ui::Failures& failures;
     platform::FileHolder& player;
     Folders& folders;
   };

@@ -1,5 +1,6 @@
 #include "batch/batch_frame.h"
 
+#include "core/text.h"
 #include "journal/undo_group.h"
 #include "platform/file_error.h"
 #include "ui/view_choice.h"
@@ -25,6 +26,13 @@ std::vector<int> BatchFrame::selectedSongs() const {
 void BatchFrame::run(const Text& caption, const std::vector<int>& rows,
                      const std::function<bool(int row)>& treat) {
   if (rows.empty()) return;
+  const Text title(core::trim(TextView(caption).substr(0, caption.find(u'.'))));
+  parts_.failures.during({title, u"file was not changed", u"files were not changed"}, rows.size(),
+                         [&] { runGroup(caption, rows, treat); });
+}
+
+void BatchFrame::runGroup(const Text& caption, const std::vector<int>& rows,
+                          const std::function<bool(int row)>& treat) {
   parts_.closing.run([&] {
     parts_.progress.show(caption);
     auto group = journal::openUndoGroup(parts_.journal, parts_.form1);

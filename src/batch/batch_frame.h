@@ -9,6 +9,7 @@
 #include "rows/artist_book.h"
 #include "tags/file_panel.h"
 #include "ui/closing_step.h"
+#include "ui/failures.h"
 #include "ui/form1.h"
 #include "ui/progress.h"
 
@@ -25,6 +26,7 @@ class BatchFrame {
     ui::Progress& progress;
     ui::ClosingStep& closing;
     journal::UndoJournal& journal;
+    ui::Failures& failures;
     rows::ArtistBook& artists;
     tags::FilePanel& panel;
   };
@@ -35,10 +37,12 @@ class BatchFrame {
   /// Rows of the selected lines of the songs in the Artist List view.
   std::vector<int> selectedSongs() const;
 
-  /// Does nothing without rows. Calls `treat` for each row in order; one that answers false is the last.
+  /// Does nothing without rows. Calls `treat` for each row in order; one that answers false is the last. Ends
+  /// with a message about the files that were left out unasked, under the caption without its dots.
   void run(const Text& caption, const std::vector<int>& rows, const std::function<bool(int row)>& treat);
 
  private:
+  void runGroup(const Text& caption, const std::vector<int>& rows, const std::function<bool(int row)>& treat);
   void walk(const std::vector<int>& rows, const std::function<bool(int row)>& treat);
 
   Parts parts_;

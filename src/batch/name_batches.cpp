@@ -5,7 +5,7 @@
 #include "core/number_text.h"
 #include "core/text.h"
 #include "names/grammar.h"
-#include "tags/field_boxes.h"
+#include "tags/open_song.h"
 
 namespace velmora::batch {
 
@@ -17,22 +17,16 @@ Text trimmed(TextView text) {
 
 }  // namespace
 
-bool NameBatches::renameFromBox(int row) {
-  const rows::RenameResult result = parts_.renamer.PromeniIme(row, true);
+bool NameBatches::renameRow(int row, const Text& name) {
+  const rows::RenameResult result = parts_.renamer.rename(row, name, true);
   parts_.artists.DodajAutora(parts_.table.track(row).pevac.text());
   return result != rows::RenameResult::Abort;
 }
 
 void NameBatches::fixSyntax() {
   parts_.frame.run(u"Fix Syntax ...", parts_.frame.selectedRows(), [this](int row) {
-    fixInBox(names::ImeFajla(parts_.table, row));
-    return renameFromBox(row);
+    return renameRow(row, parts_.fixer.fixedName(names::ImeFajla(parts_.table, row)));
   });
-}
-
-void NameBatches::fixInBox(TextView name) {
-  parts_.form1.Text1.setText(name);
-  parts_.fixer.fixTextBox();
 }
 
 void NameBatches::removeString() {
@@ -44,23 +38,23 @@ void NameBatches::removeString() {
           .input(u"Input string to remove from selected files:", u"Remove String", parts_.form1.Text1.text())
           .value_or(Text());
   parts_.frame.run(u"Remove String ...", rows, [this, &removed](int row) {
-    fixInBox(core::replaceAll(names::ImeFajla(parts_.table, row), removed, {}));
-    return renameFromBox(row);
+    const Text left = core::replaceAll(names::ImeFajla(parts_.table, row), removed, {});
+    return renameRow(row, parts_.fixer.fixedName(left));
   });
 }
 
 void NameBatches::removeTrackNumber() {
   parts_.frame.run(u"Removing Track Number ...", parts_.frame.selectedRows(), [this](int row) {
-    return removeNumber(row, {3, 2, 1}, parts_.form1.tags.track);
+    return removeNumber(row, {3, 2, 1}, &tags::FieldValues::track);
   });
 }
 
 void NameBatches::removeYearNumber() {
   parts_.frame.run(u"Removing Year Number ...", parts_.frame.selectedRows(),
-                   [this](int row) { return removeNumber(row, {4}, parts_.form1.tags.year); });
+                   [this](int row) { return removeNumber(row, {4}, &tags::FieldValues::year); });
 }
 
-bool NameBatches::removeNumber(int row, std::initializer_list<int> lengths, ui::TextBox& tagBox) {
+bool NameBatches::removeNumber(int row, std::initializer_list<int> lengths, TagField into) {
   const Text name = names::ImeFajla(parts_.table, row);
   names::RemovedNumber removed;
   for (const int length : lengths) {
@@ -68,32 +62,28 @@ bool NameBatches::removeNumber(int row, std::initializer_list<int> lengths, ui::
     if (!removed.digits.empty()) break;
   }
   if (removed.digits.empty()) return true;
-  fixInBox(removed.name);
-  if (parts_.form1.Text1.text() != name) {
-    const rows::RenameResult result = parts_.renamer.PromeniIme(row, true);
+  const Text left = parts_.fixer.fixedName(removed.name);
+  if (left != name) {
+    const rows::RenameResult result = parts_.renamer.rename(row, left, true);
     parts_.artists.DodajAutora(parts_.table.track(row).pevac.text());
     if (result != rows::RenameResult::Done) return result != rows::RenameResult::Abort;
   }
-  if (parts_.options.fix10.checked()) insertNumber(row, removed.digits, tagBox);
-  return true;
+  return !parts_.options.fix10.checked() || insertNumber(row, removed.digits, into);
 }
 
-void NameBatches::insertNumber(int row, const Text& digits, ui::TextBox& tagBox) {
+bool NameBatches::insertNumber(int row, const Text& digits, TagField into) {
   const core::Track& track = parts_.table.track(row);
-  const tags::OwnValues ownValues(parts_.form1);
-  tags::OpenSong song(parts_.files, track.nizdes.text());
-  parts_.panel.info(song, row);
   // The dash that is stored next may cut the artist's own name in two, which the tags must not follow.
-  const Text artist = trimmed(track.pevac.text());
-  const Text title = trimmed(track.pesma.text());
+  tags::FieldValues values{.title = trimmed(track.pesma.text()), .artist = trimmed(track.pevac.text())};
+  values.*into = digits;
   findFirstDash(row);
-  if (!track.imaid3v1.isTrue() && !track.imaid3v2.isTrue()) return;
+  parts_.tagCache.read(track.nizdes.text(), row);
+  if (!track.imaid3v1.isTrue() && !track.imaid3v2.isTrue()) return true;
   const ui::TagPanel& panel = parts_.form1.tags;
-  parts_.tagWriter.write(song, panel.writeID3v1.checked(), panel.writeID3v2.checked(), [&] {
-    tagBox.setText(digits);
-    parts_.form1.tags.artist.setText(artist);
-    parts_.form1.tags.title.setText(title);
-  });
+  tags::OpenSong song(parts_.files, track.nizdes.text());
+  return parts_.tagWriter.write(song, row, values,
+                                {panel.writeID3v1.checked(), panel.writeID3v2.checked()}) !=
+         tags::UpdateResult::Abort;
 }
 
 void NameBatches::findFirstDash(int row) {
@@ -110,31 +100,29 @@ void NameBatches::findFirstDash(int row) {
 void NameBatches::replaceArtistTitle() {
   parts_.frame.run(u"Replace artist - title ...", parts_.frame.selectedRows(), [this](int row) {
     const core::Track& track = parts_.table.track(row);
-    parts_.panel.info(track.nizdes.text(), row);
     const names::SyntaxFixer& fixer = parts_.fixer;
-    parts_.form1.Text1.setText(fixer.Filter(track.pesma.text(), fixer.Filautora()) + u" - " +
-                               fixer.Filter(track.pevac.text(), fixer.Filpesme()));
-    return renameFromBox(row);
+    return renameRow(row, fixer.Filter(track.pesma.text(), fixer.Filautora()) + u" - " +
+                              fixer.Filter(track.pevac.text(), fixer.Filpesme()));
   });
 }
 
 void NameBatches::fromTags() {
-  parts_.frame.run(u"Update Filenames From ID3 Tags ...", parts_.frame.selectedRows(), [this](int row) {
-    const Text name = nameFromTag(row);
-    if (name == u" - ") return true;
-    parts_.form1.Text1.setText(name);
-    return renameFromBox(row);
-  });
+  const ui::TagPanel& panel = parts_.form1.tags;
+  // The choice holds for all: a row that lacks this tag must not change it for the rows behind it.
+  const bool first = panel.viewID3v1.chosen() && !parts_.panel.onlyFirstThere();
+  parts_.frame.run(u"Update Filenames From ID3 Tags ...", parts_.frame.selectedRows(),
+                   [this, first](int row) {
+                     const Text name = nameFromTag(row, first);
+                     return name == u" - " || renameRow(row, name);
+                   });
 }
 
-Text NameBatches::nameFromTag(int row) {
-  ui::TagPanel& panel = parts_.form1.tags;
-  const bool secondChosen = panel.viewID3v2.chosen();
+Text NameBatches::nameFromTag(int row, bool preferFirst) {
   const core::Track& track = parts_.table.track(row);
-  parts_.panel.info(track.nizdes.text(), row);
-  if (secondChosen && panel.viewID3v2.enabled()) panel.viewID3v2.setChosen(true);
-  const bool first = panel.viewID3v1.chosen() && track.imaid3v1.isTrue();
-  if (!first && !track.imaid3v2.isTrue()) return u" - ";
+  parts_.tagCache.read(track.nizdes.text(), row);
+  const bool second = track.imaid3v2.isTrue();
+  const bool first = track.imaid3v1.isTrue() && (preferFirst || !second);
+  if (!first && !second) return u" - ";
   const core::Element& artist = first ? track.pevacID3v1 : track.pevacID3v2;
   const core::Element& title = first ? track.pesmaid3v1 : track.pesmaid3v2;
   return trimmed(names::OcistiIme(artist.text())) + u" - " + trimmed(names::OcistiIme(title.text()));
@@ -146,14 +134,17 @@ void NameBatches::rename() {
     // The name box belongs to the current row, which the panel shows.
     const int row = parts_.table.currentRow;
     if (rows.empty() || !parts_.panel.shows(row)) return;
-    return parts_.frame.run(u"Renaming ...", {row}, [this](int only) { return renameFromBox(only); });
+    return parts_.frame.run(u"Renaming ...", {row}, [this](int only) {
+      const rows::RenameResult result = parts_.renamer.PromeniIme(only, true);
+      parts_.artists.DodajAutora(parts_.table.track(only).pevac.text());
+      return result != rows::RenameResult::Abort;
+    });
   }
   parts_.frame.run(u"Renaming ...", rows, [this](int row) {
     const core::Track& track = parts_.table.track(row);
     // A name without an artist part has no dash to set right.
     if (core::value(track.crtapos.text()) == 0) return true;
-    parts_.form1.Text1.setText(trimmed(track.pevac.text()) + u" - " + trimmed(track.pesma.text()));
-    return renameFromBox(row);
+    return renameRow(row, trimmed(track.pevac.text()) + u" - " + trimmed(track.pesma.text()));
   });
 }
 
@@ -161,15 +152,14 @@ void NameBatches::renameFiles() {
   ui::ListBox& songs = parts_.form1.List2;
   const std::vector<int> lines = songs.selectedIndexes();
   std::size_t next = 0;
-  const bool several = lines.size() > 1;
+  const Text artist = trimmed(parts_.form1.Text8.text());
+  const Text typed = trimmed(parts_.form1.Text5.text());
   parts_.frame.run(u"Rename ...", parts_.frame.selectedSongs(), [&](int row) {
-    ui::Form1& form1 = parts_.form1;
     while (next < lines.size() && songs.ItemData(lines[next]) != row) ++next;
-    if (several && next < lines.size()) form1.Text5.setText(songs.List(lines[next]));
-    const Text artist = trimmed(form1.Text8.text());
-    const Text title = trimmed(form1.Text5.text());
-    form1.Text1.setText(artist.empty() ? title : artist + u" - " + title);
-    const rows::RenameResult result = parts_.renamer.PromeniIme(row, true);
+    const bool ownTitle = lines.size() > 1 && next < lines.size();
+    const Text title = ownTitle ? trimmed(songs.List(lines[next])) : typed;
+    const rows::RenameResult result =
+        parts_.renamer.rename(row, artist.empty() ? title : artist + u" - " + title, true);
     if (next < lines.size()) songs.setList(lines[next], parts_.table.track(row).pesma.text());
     return result != rows::RenameResult::Abort;
   });

@@ -1,13 +1,17 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 
 #include "batch/batch_frame.h"
 #include "batch/renamer.h"
 #include "names/syntax_fixer.h"
 #include "platform/dialogs.h"
 #include "rows/artist_book.h"
-#include "tags/each_tag_writer.h"
+#include "tags/field_values.h"
+#include "tags/file_panel.h"
+#include "tags/tag_cache.h"
+#include "tags/update_tags.h"
 #include "ui/dialog2.h"
 
 namespace velmora::batch {
@@ -25,8 +29,9 @@ class NameBatches {
     names::SyntaxFixer& fixer;
     Renamer& renamer;
     rows::ArtistBook& artists;
+    tags::TagCache& tagCache;
     tags::FilePanel& panel;
-    tags::EachTagWriter& tagWriter;
+    tags::TagWriter& tagWriter;
   };
   explicit NameBatches(const Parts& parts) : parts_(parts) {}
 
@@ -48,14 +53,16 @@ class NameBatches {
   void renameFiles();
 
  private:
-  /// Gives the row the name in the box and counts its artist; false after Abort.
-  bool renameFromBox(int row);
-  /// Puts a name in the box and has it fixed there.
-  void fixInBox(TextView name);
-  bool removeNumber(int row, std::initializer_list<int> lengths, ui::TextBox& tagBox);
-  void insertNumber(int row, const Text& digits, ui::TextBox& tagBox);
+  using TagField = std::optional<Text> tags::FieldValues::*;
+  // All of these return false after Abort.
+  /// Gives the row a name and counts its artist.
+  bool renameRow(int row, const Text& name);
+  bool removeNumber(int row, std::initializer_list<int> lengths, TagField into);
+  bool insertNumber(int row, const Text& digits, TagField into);
+
   void findFirstDash(int row);
-  Text nameFromTag(int row);
+  /// " - " when the row has no tag, or a blank one.
+  Text nameFromTag(int row, bool preferFirst);
 
   Parts parts_;
 };

@@ -1,7 +1,6 @@
 #include "batch/renamer.h"
 
 #include <optional>
-#include <utility>
 
 #include "core/number_text.h"
 #include "core/paths.h"
@@ -9,7 +8,7 @@
 #include "journal/pending_record.h"
 #include "journal/undo_record.h"
 #include "names/grammar.h"
-#include "tags/field_boxes.h"
+#include "platform/file_error.h"
 
 namespace velmora::batch {
 
@@ -23,6 +22,21 @@ constexpr int extensionLength = 4;  // dot included
 constexpr int duplicatesView = 2;
 constexpr int artistListView = 3;
 
+/// What of a name can stand on the disk, and in the records of the journal.
+Text cleanName(TextView typed) {
+  Text name = names::OcistiIme(typed);
+  // A tag may hold what no record of ours can carry.
+  for (char16_t& character : name)
+    if (character < u' ') character = u' ';
+  return Text(core::trim(name));
+}
+
+/// The path with another bare name.
+Text withName(const Text& path, const Text& name) {
+  return core::canonical(Text(core::paths::folderPart(path)) + name +
+                         Text(core::right(path, extensionLength)));
+}
+
 }  // namespace
 
 bool sameButForCapitals(TextView left, TextView right) {
@@ -31,66 +45,62 @@ bool sameButForCapitals(TextView left, TextView right) {
 
 rows::RenameResult Renamer::PromeniIme(int row, bool withUndo) {
   if (!parts_.table.hasRow(row)) return rows::RenameResult::Done;
+  ui::TextBox& box = parts_.form1.Text1;
+  box.setText(cleanName(box.text()));
+  const Text before = parts_.table.path(row);
+  const rows::RenameResult result = rename(row, box.text(), withUndo);
+  if (parts_.table.path(row) != before) box.setText(names::ImeFajla(parts_.table, row));
+  return result;
+}
+
+rows::RenameResult Renamer::rename(int row, const Text& name, bool withUndo) {
+  if (!parts_.table.hasRow(row)) return rows::RenameResult::Done;
   for (;;) {
     try {
-      rename(row, withUndo);
-      return rows::RenameResult::Done;
+      return renameOnce(row, cleanName(name), withUndo);
     } catch (const journal::NotRecorded&) {
       throw;
     } catch (const FileError& error) {
+      const Text& path = parts_.table.path(row);
       const rows::RenameResult answer = rows::askAboutRename(
-          parts_.dialogs, u"Error While Renaming File " + parts_.table.path(row) + u" #" +
-                              core::number(std::int64_t{error.number}) + u" Occurred: " + error.description +
-                              u"\r\n      Wath To Do ?");
+          parts_.failures,
+          u"Error While Renaming File " + path + u" #" + core::number(std::int64_t{error.number}) +
+              u" Occurred: " + error.description + u"\r\n      Wath To Do ?",
+          path, error);
       if (answer != rows::RenameResult::Done) return answer;
     }
   }
 }
 
-void Renamer::rename(int row, bool withUndo) {
+rows::RenameResult Renamer::renameOnce(int row, const Text& name, bool withUndo) {
   core::TrackTable& table = parts_.table;
   table.currentRow = row;
   const OldName old{table.path(row), table.track(row).pevac.text(), table.track(row).pesma.text()};
-  cleanBox();
   // With nothing left of its name, a file would be hidden from the user.
-  if (parts_.form1.Text1.text().empty() || pathFromBox(old.path) == old.path) return;
+  if (name.empty() || withName(old.path, name) == old.path) return rows::RenameResult::Done;
 
   platform::FileHandOver handOver(parts_.player, old.path);
   if (handOver.held() && parts_.desktop.systemVersion() < pauseBelowVersion)
     parts_.desktop.sleep(pauseMilliseconds);
-  const Text newPath = moveToFreeName(row, withUndo);
-  if (newPath == old.path) return;
+  const Text newPath = moveToFreeName(row, name, withUndo);
+  if (newPath == old.path) return rows::RenameResult::Done;
   handOver.renamed(newPath);
   table.track(row).nizdes = newPath;
   showNewPath(row, old, newPath);
   parts_.desktop.pumpEvents();
   findDash(row, old);
   parts_.artists.IzbaciAutora(old.artist);
-  if (withUndo) followWithTags(row, old);
+  const bool aborted = withUndo && followWithTags(row, old) == tags::UpdateResult::Abort;
   if (table.vrsta == duplicatesView && onDuplicateRenamed) onDuplicateRenamed(row);
   if (table.vrsta == duplicatesView || table.vrsta == artistListView)
     parts_.artists.DodajAutora(table.track(row).pevac.text());
+  return aborted ? rows::RenameResult::Abort : rows::RenameResult::Done;
 }
 
-void Renamer::cleanBox() {
-  Text name = names::OcistiIme(parts_.form1.Text1.text());
-  // A tag may hold what no record of ours can carry.
-  for (char16_t& character : name)
-    if (character < u' ') character = u' ';
-  parts_.form1.Text1.setText(core::trim(name));
-}
-
-Text Renamer::pathFromBox(const Text& oldPath) const {
-  return core::canonical(Text(core::paths::folderPart(oldPath)) + parts_.form1.Text1.text() +
-                         Text(core::right(oldPath, extensionLength)));
-}
-
-Text Renamer::moveToFreeName(int row, bool withUndo) {
+Text Renamer::moveToFreeName(int row, Text name, bool withUndo) {
   const Text oldPath = parts_.table.path(row);
-  ui::TextBox& box = parts_.form1.Text1;
-  const auto addBlank = [&box] { box.setText(box.text() + u' '); };
-  for (;; addBlank()) {
-    Text newPath = pathFromBox(oldPath);
+  for (;; name += u' ') {
+    Text newPath = withName(oldPath, name);
     if (newPath == oldPath) return newPath;
     // The file itself would be found under a name that differs in capitals alone; the move tells then.
     if (!sameButForCapitals(newPath, oldPath) && parts_.files.fileExists(newPath)) continue;
@@ -122,26 +132,39 @@ void Renamer::findDash(int row, const OldName& old) {
   names::PevacIPesma(parts_.table, row);
 }
 
-void Renamer::followWithTags(int row, const OldName& old) {
-  core::Track& track = parts_.table.track(row);
-  const Text path = track.nizdes.text();
-  parts_.desktop.pumpEvents();
-  parts_.panel.info(path, row, tags::InfoMode::TagsOnly);
+/// The tags that equal the old name.
+tags::WhichTags Renamer::tagsOf(int row, const OldName& old) const {
+  const core::Track& track = parts_.table.track(row);
   const TextView artist = core::trim(old.artist);
   const TextView title = core::trim(old.title);
-  const bool first =
-      track.imaid3v1.isTrue() && track.pevacID3v1.text() == artist && track.pesmaid3v1.text() == title;
-  const bool second =
-      track.imaid3v2.isTrue() && track.pevacID3v2.text() == artist && track.pesmaid3v2.text() == title;
-  if (!first && !second) return;
+  return {.id3v1 = track.imaid3v1.isTrue() && track.pevacID3v1.text() == artist &&
+                   track.pesmaid3v1.text() == title,
+          .id3v2 = track.imaid3v2.isTrue() && track.pevacID3v2.text() == artist &&
+                   track.pesmaid3v2.text() == title};
+}
 
-  const tags::OwnValues ownValues(parts_.form1);
-  tags::OpenSong song(parts_.files, path);
-  parts_.panel.info(song, row);
-  parts_.tagWriter.write(song, first, second, [this, &track] {
-    parts_.form1.tags.title.setText(core::trim(track.pesma.text()));
-    parts_.form1.tags.artist.setText(core::trim(track.pevac.text()));
-  });
+tags::UpdateResult Renamer::followWithTags(int row, const OldName& old) {
+  const core::Track& track = parts_.table.track(row);
+  parts_.desktop.pumpEvents();
+  parts_.tagCache.read(track.nizdes.text(), row);
+  tags::WhichTags which = tagsOf(row, old);
+  if (!which.id3v1 && !which.id3v2) return tags::UpdateResult::Done;
+  tags::OpenSong song(parts_.files, track.nizdes.text());
+  try {
+    // What another program wrote since the row was read does not follow.
+    parts_.tagCache.readAnew(song.bytesToRead(), row);
+    which = tagsOf(row, old);
+  } catch (const FileError&) {
+    // The write asks about it.
+  }
+  try {
+    return parts_.tagWriter.write(
+        song, row,
+        {.title = Text(core::trim(track.pesma.text())), .artist = Text(core::trim(track.pevac.text()))},
+        which);
+  } catch (const journal::NotRecorded&) {
+    return tags::UpdateResult::Abort;  // the rename itself is done
+  }
 }
 
 }  // namespace velmora::batch

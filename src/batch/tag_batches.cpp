@@ -12,19 +12,11 @@ constexpr int artistListView = 3;
 
 void TagBatches::fromNames() {
   const bool songs = parts_.table.vrsta == artistListView;
-  const tags::OwnValues ownValues(parts_.form1);
   parts_.frame.run(u"Update ID3 Tags From Filename ...",
                    songs ? parts_.frame.selectedSongs() : parts_.frame.selectedRows(), [this](int row) {
                      const core::Track& track = parts_.table.track(row);
-                     ui::TagPanel& panel = parts_.form1.tags;
-                     tags::OpenSong song(parts_.files, track.nizdes.text());
-                     parts_.panel.info(song, row);
-                     parts_.eachTagWriter.write(song, panel.writeID3v1.checked(), panel.writeID3v2.checked(),
-                                                [&panel, &track] {
-                                                  panel.artist.setText(core::trim(track.pevac.text()));
-                                                  panel.title.setText(core::trim(track.pesma.text()));
-                                                });
-                     return true;
+                     return write(row, {.title = Text(core::trim(track.pesma.text())),
+                                        .artist = Text(core::trim(track.pevac.text()))});
                    });
 }
 
@@ -38,36 +30,21 @@ void TagBatches::update() {
     // The tag boxes belong to the current row, which the panel shows.
     const int row = parts_.table.currentRow;
     if (parts_.panel.shows(row))
-      parts_.frame.run(u"Update ID3 Tags ...", {row}, [this](int) {
-        parts_.tagWriter.UpdateTags();
-        return true;
-      });
+      parts_.frame.run(u"Update ID3 Tags ...", {row},
+                       [this](int) { return parts_.tagWriter.UpdateTags() != tags::UpdateResult::Abort; });
   } else {
     parts_.frame.run(u"Update ID3 Tags ...", rows,
-                     [this, first = parts_.form1.tags.viewID3v1.chosen()](int row) {
-                       updateOneOfSeveral(row, first);
-                       return true;
-                     });
+                     [this, values = parts_.fields.shared()](int row) { return write(row, values); });
   }
   button.setEnabled(true);
 }
 
-void TagBatches::updateOneOfSeveral(int row, bool first) {
-  ui::TagPanel& panel = parts_.form1.tags;
-  {
-    const tags::KeptWriteMarks marks(panel);
-    // The file before may have had the other tag alone.
-    ui::OptionButton& wanted = first ? panel.viewID3v1 : panel.viewID3v2;
-    if (!wanted.chosen()) wanted.setChosen(true);
-    parts_.fields.blankUnticked();
-    parts_.panel.info(parts_.table.path(row), row);
-    // Blank boxes would be written over the one tag that the file has.
-    if (!first && panel.viewID3v1.enabled() && !panel.viewID3v2.enabled()) {
-      panel.viewID3v1.setChosen(true);
-      parts_.panel.showTags();
-    }
-  }
-  parts_.tagWriter.UpdateTags();
+bool TagBatches::write(int row, const tags::FieldValues& values) {
+  const ui::TagPanel& panel = parts_.form1.tags;
+  tags::OpenSong song(parts_.files, parts_.table.path(row));
+  return parts_.tagWriter.write(song, row, values,
+                                {panel.writeID3v1.checked(), panel.writeID3v2.checked()}) !=
+         tags::UpdateResult::Abort;
 }
 
 }  // namespace velmora::batch

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "batch/batch_frame.h"
-#include "tags/each_tag_writer.h"
 #include "tags/field_boxes.h"
+#include "tags/file_panel.h"
+#include "tags/update_tags.h"
 
 namespace velmora::batch {
 
@@ -17,7 +18,6 @@ class TagBatches {
     BatchFrame& frame;
     tags::FilePanel& panel;
     tags::TagWriter& tagWriter;
-    tags::EachTagWriter& eachTagWriter;
     tags::FieldBoxes& fields;
   };
   explicit TagBatches(const Parts& parts) : parts_(parts) {}
@@ -25,14 +25,13 @@ class TagBatches {
   /// "FN-->ID3": artist and title part of each name go into its tags. In the Artist List view the songs are
   /// what is selected.
   void fromNames();
-  /// "UPDATE": the boxes of the panel go into the tags of the current row; with several files selected the
-  /// ticked boxes go into the tags of all.
+  /// "UPDATE": what was changed in the boxes of the panel goes into the tags of the current row; with several
+  /// files selected the ticked boxes go into the tags of all.
   void update();
 
  private:
-  /// Shows one file among several, with its ID3v1 or its ID3v2 tag in view, or the only one that it has, and
-  /// writes what the panel shows.
-  void updateOneOfSeveral(int row, bool first);
+  /// Writes values into the marked tags of a row; false after Abort.
+  bool write(int row, const tags::FieldValues& values);
 
   Parts parts_;
 };

@@ -45,8 +45,7 @@ void UndoName::undoName() {
   std::erase_if(rows, [&](int row) { return !earlier.contains(parts_.table.path(row)); });
   parts_.frame.run(u"Renaming ...", rows, [this, &earlier](int row) {
     const Text& path = earlier.at(parts_.table.path(row));
-    parts_.form1.Text1.setText(core::paths::bareName(path));
-    const rows::RenameResult result = parts_.renamer.PromeniIme(row, true);
+    const rows::RenameResult result = parts_.renamer.rename(row, Text(core::paths::bareName(path)), true);
     parts_.artists.DodajAutora(parts_.table.track(row).pevac.text());
     return result != rows::RenameResult::Abort;
   });

@@ -10,6 +10,7 @@
 #include "platform/file_error.h"
 #include "rows/file_mover.h"
 #include "ui/display_limit.h"
+#include "ui/failures.h"
 #include "ui/view_choice.h"
 
 namespace velmora::list {
@@ -53,11 +54,15 @@ void OtherFiles::moveSelected() {
   const auto folder = parts_.dialogs.pickFolder(u"Select folder where you want to move selected files.",
                                                 parts_.settings.get(u"novidir"));
   if (!folder) return;
-  rows::FileMover mover(parts_.files, parts_.dialogs, parts_.player);
-  walkSelected(u"Moving ...", [&mover, &folder](const Text& path) {
+  ui::Failures failures(parts_.dialogs);
+  rows::FileMover mover(parts_.files, failures, parts_.player);
+  const auto move = [&mover, &folder](const Text& path) {
     const auto result = mover.move(path, core::paths::join(*folder, core::paths::fileName(path)));
     return Outcome{result == rows::MoveResult::Moved, result != rows::MoveResult::Abort};
-  });
+  };
+  failures.during({u"Move To", u"file was not moved", u"files were not moved"},
+                  static_cast<std::size_t>(parts_.windows.form8.list.SelCount()),
+                  [&] { walkSelected(u"Moving ...", move); });
 }
 
 void OtherFiles::walkSelected(const Text& caption, const std::function<Outcome(const Text& path)>& treat) {

@@ -42,8 +42,7 @@ MoveResult FileMover::moveBy(const Move& moveOnce, const Text& path, const Text&
     } catch (const platform::FileError& error) {
       const Text text = u"Error #" + core::plain(std::int64_t{error.number}) + u" while moving { " + path +
                         u" } occurred: " + error.description;
-      switch (dialogs_.message(text, u"Move File", platform::Buttons::AbortRetryIgnore,
-                               platform::Icon::Critical)) {
+      switch (failures_.ask(text, u"Move File", path, error.description)) {
         case platform::Answer::Retry:
           break;
         case platform::Answer::Abort:

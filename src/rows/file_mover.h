@@ -2,10 +2,10 @@
 
 #include <functional>
 
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/hand_over.h"
 #include "platform/trash.h"
+#include "ui/failures.h"
 
 namespace velmora::rows {
 
@@ -18,8 +18,8 @@ enum class MoveResult {
 /// The move of one file, with its failure dialog. It knows neither table nor journal.
 class FileMover {
  public:
-  FileMover(platform::Files& files, platform::Dialogs& dialogs, platform::FileHolder& player)
-      : files_(files), dialogs_(dialogs), player_(player) {}
+  FileMover(platform::Files& files, ui::Failures& failures, platform::FileHolder& player)
+      : files_(files), failures_(failures), player_(player) {}
 
   /// Moves a file to the full path `target`, and puts blanks before the last four characters of the new name
   /// for as long as another file has it. The preview player lets go of the file meanwhile and then goes on.
@@ -35,7 +35,7 @@ class FileMover {
   static Text moveToFreeName(const Move& moveOnce, const Text& path, Text target);
 
   platform::Files& files_;
-  platform::Dialogs& dialogs_;
+  ui::Failures& failures_;
   platform::FileHolder& player_;
 };
 

@@ -1,11 +1,10 @@
 #include "rows/plain_rename.h"
 
 #include "core/number_text.h"
-#include "platform/file_error.h"
 
 namespace velmora::rows {
 
-RenameResult RenameNoList(platform::Files& files, platform::Dialogs& dialogs, platform::FileHolder& player,
+RenameResult RenameNoList(platform::Files& files, ui::Failures& failures, platform::FileHolder& player,
                           const Text& path, const Text& newPath) {
   if (path == newPath) return RenameResult::Done;
   platform::FileHandOver handOver(player, path);
@@ -16,15 +15,18 @@ RenameResult RenameNoList(platform::Files& files, platform::Dialogs& dialogs, pl
       return RenameResult::Done;
     } catch (const platform::FileError& error) {
       const RenameResult answer = askAboutRename(
-          dialogs, u"Error while renaming file " + path + u" #" + core::plain(std::int64_t{error.number}) +
-                       u" occurred: " + error.description + u"      Wath i do ?");
+          failures,
+          u"Error while renaming file " + path + u" #" + core::plain(std::int64_t{error.number}) +
+              u" occurred: " + error.description + u"      Wath i do ?",
+          path, error);
       if (answer != RenameResult::Done) return answer;
     }
   }
 }
 
-RenameResult askAboutRename(platform::Dialogs& dialogs, const Text& text) {
-  switch (dialogs.message(text, u"Rename", platform::Buttons::AbortRetryIgnore, platform::Icon::Critical)) {
+RenameResult askAboutRename(ui::Failures& failures, const Text& text, TextView path,
+                            const platform::FileError& error) {
+  switch (failures.ask(text, u"Rename", path, error.description)) {
     case platform::Answer::Abort:
       return RenameResult::Abort;
     case platform::Answer::Retry:

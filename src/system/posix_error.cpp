@@ -57,10 +57,50 @@ int numberOf(int code, const Bytes& path) {
   }
 }
 
+/// What is wrong, where the number alone would not tell; empty otherwise.
+TextView causeOf(int code) {
+  switch (code) {
+    case ENAMETOOLONG:
+      return u"File name too long";
+    case EINVAL:
+    case EILSEQ:
+      return u"Name not allowed on this disk";
+    case ELOOP:
+      return u"Link that leads in a circle";
+    case EFBIG:
+      return u"File too large for this disk";
+    case EMFILE:
+    case ENFILE:
+      return u"Too many files are open";
+    case ENOMEM:
+      return u"Out of memory";
+    case ENOTSUP:
+    case ENOSYS:
+      return u"This disk cannot do that";
+    case EXDEV:
+      return u"Other disk";
+    case ENXIO:
+    case ENODEV:
+      return u"Disk not ready";
+    case ESTALE:
+    case ENOTCONN:
+    case EHOSTDOWN:
+    case EHOSTUNREACH:
+    case ENETDOWN:
+    case ENETUNREACH:
+    case ETIMEDOUT:
+      return u"Network disk does not answer";
+    default:
+      return {};
+  }
+}
+
 }  // namespace
 
 void throwFileError(int code, const Bytes& path) {
-  throw FileError(numberOf(code, path));
+  const int number = numberOf(code, path);
+  const TextView cause = number == FileError::deviceError ? causeOf(code) : TextView();
+  throw cause.empty() ? FileError(number) : FileError(number, Text(cause));
 }
 
 void throwErrno(const Bytes& path) {

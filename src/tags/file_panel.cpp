@@ -3,11 +3,13 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "tags/form_fields.h"
 #include "tags/mp3_header.h"
 
 namespace velmora::tags {
@@ -23,26 +25,6 @@ Text twoDigits(std::int64_t number) {
   Text digits = core::plain(number);
   if (digits.size() < 2) digits.insert(digits.begin(), u'0');
   return digits;
-}
-
-/// Shows the values in the boxes, save those that keep what was typed.
-void fill(ui::Form1& form1, const core::Element& title, const core::Element& artist,
-          const core::Element& album, const core::Element& year, const core::Element& track,
-          const core::Element& genre) {
-  const auto show = [&form1](auto& box, const ui::CheckBox& check, const core::Element& value) {
-    if (form1.fieldChecks.keeps(check)) return;
-    // A batch shows each song several times over, mostly with what the boxes hold already.
-    if (box.text() != value.text())
-      box.setText(value.text());
-    else if constexpr (requires { box.setCursor(0); })
-      box.setCursor(core::length(box.text()));
-  };
-  show(form1.tags.title, form1.fieldChecks.title, title);
-  show(form1.tags.artist, form1.fieldChecks.artist, artist);
-  show(form1.tags.album, form1.fieldChecks.album, album);
-  show(form1.tags.year, form1.fieldChecks.year, year);
-  show(form1.tags.track, form1.fieldChecks.track, track);
-  show(form1.tags.genre, form1.fieldChecks.genre, genre);
 }
 
 }  // namespace
@@ -96,7 +78,7 @@ void FilePanel::clearLabels() {
 FilePanel::View FilePanel::clearTags() {
   ui::TagPanel& tags = form1_.tags;
   View chosen{tags.viewID3v1.chosen(), tags.viewID3v2.chosen()};
-  if (!chosen.id3v1 && !chosen.id3v2) chosen = {true, true};
+  if ((!chosen.id3v1 && !chosen.id3v2) || std::exchange(onlyFirst_, false)) chosen = {true, true};
   for (ui::OptionButton* view : {&tags.viewID3v1, &tags.viewID3v2}) {
     view->setEnabled(false);
     view->setChosen(false);
@@ -134,14 +116,17 @@ void FilePanel::showLength(double seconds) {
 void FilePanel::offerViews(const View& chosen) {
   ui::TagPanel& tags = form1_.tags;
   const core::Track& track = table_.track(table_.currentRow);
-  if (track.imaid3v1.isTrue()) {
+  const bool first = track.imaid3v1.isTrue();
+  const bool second = track.imaid3v2.isTrue();
+  if (first) {
     tags.viewID3v1.setEnabled(true);
-    if (chosen.id3v1) tags.viewID3v1.setChosen(true);
+    if (chosen.id3v1 || !second) tags.viewID3v1.setChosen(true);
   }
-  if (track.imaid3v2.isTrue()) {
+  if (second) {
     tags.viewID3v2.setEnabled(true);
     if (chosen.id3v2 || !tags.viewID3v1.chosen()) tags.viewID3v2.setChosen(true);
   }
+  onlyFirst_ = first && !second && !chosen.id3v1;
   showTags();
 }
 
@@ -149,13 +134,30 @@ void FilePanel::showTags() {
   const core::Track& track = table_.track(table_.currentRow);
   const ui::TagPanel& tags = form1_.tags;
   if (tags.viewID3v2.chosen())
-    fill(form1_, track.pesmaid3v2, track.pevacID3v2, track.albumid3v2, track.godinaid3v2,
-         track.brojtrakeid3v2, track.vrstaid3v2);
+    shown_ = {track.pesmaid3v2.text(),  track.pevacID3v2.text(),     track.albumid3v2.text(),
+              track.godinaid3v2.text(), track.brojtrakeid3v2.text(), track.vrstaid3v2.text()};
   else if (tags.viewID3v1.chosen())
-    fill(form1_, track.pesmaid3v1, track.pevacID3v1, track.albumid3v1, track.godinaid3v1,
-         track.brojtrakeid3v1, track.vrstaid3v1);
+    shown_ = {track.pesmaid3v1.text(),  track.pevacID3v1.text(),     track.albumid3v1.text(),
+              track.godinaid3v1.text(), track.brojtrakeid3v1.text(), track.vrstaid3v1.text()};
   else
-    fill(form1_, {}, {}, {}, {}, {}, {});
+    shown_ = {};
+  forEachField(form1_, [this](auto& box, const ui::CheckBox& check, auto field) {
+    if (check.checked()) return;
+    const Text value = (shown_.*field).value_or(Text());
+    // A batch shows each song several times over, mostly with what the boxes hold already.
+    if (box.text() != value)
+      box.setText(value);
+    else if constexpr (requires { box.setCursor(0); })
+      box.setCursor(core::length(box.text()));
+  });
+}
+
+FieldValues FilePanel::changed() const {
+  FieldValues values;
+  forEachField(form1_, [&](const auto& box, const ui::CheckBox&, auto field) {
+    if (box.text() != (shown_.*field).value_or(Text())) values.*field = box.text();
+  });
+  return values;
 }
 
 void FilePanel::showName(int row) {

@@ -6,6 +6,7 @@
 
 #include "core/track_table.h"
 #include "platform/files.h"
+#include "tags/field_values.h"
 #include "tags/open_song.h"
 #include "tags/song_bytes.h"
 #include "tags/tag_cache.h"
@@ -30,8 +31,8 @@ class FilePanel {
   std::function<double(const Text& path)> durationOf;
 
   /// Makes `row` the current row, shows header and tags of the file, and reads its tags into the columns.
-  /// The view of the tag that was chosen stays chosen where the file has that tag. A file that cannot be
-  /// opened leaves what could not be shown blank and the columns as they were.
+  /// The view of the tag that was chosen stays chosen where the file has that tag; else the other one is. A
+  /// file that cannot be opened leaves what could not be shown blank and the columns as they were.
   void info(const Text& path, int row, InfoMode mode = InfoMode::Full);
   /// `info` with TagsOnly. Returns the length of the file in bytes when it had to be opened.
   std::optional<std::uint64_t> readTags(const Text& path, int row);
@@ -39,6 +40,10 @@ class FilePanel {
   void info(OpenSong& song, int row);
   /// Fills the tag boxes from the columns of the chosen tag, for the current row.
   void showTags();
+  /// What the user changed in the tag boxes since they were filled.
+  FieldValues changed() const;
+  /// Whether ID3v1 is in view because the row has no ID3v2 tag, and not because it was chosen.
+  bool onlyFirstThere() const { return onlyFirst_; }
   /// Puts the bare name and the artist and title parts of a row in their boxes.
   void showName(int row);
   /// Blanks all labels and boxes.
@@ -67,6 +72,8 @@ class FilePanel {
   platform::Files& files_;
   TagCache& cache_;
   ui::Form1& form1_;
+  FieldValues shown_;  // what the boxes were filled with
+  bool onlyFirst_ = false;
 };
 
 }  // namespace velmora::tags

@@ -81,21 +81,25 @@ bool TagCache::read(const Text& path, int row, std::optional<std::uint64_t>* byt
 }
 
 bool TagCache::read(SongBytes& song, int row) {
-  core::Track& track = table_.track(row);
-  if (track.procitan.isTrue()) return true;
-  if (song.size() == 0) return false;
+  if (table_.track(row).procitan.isTrue()) return true;
   try {
-    // Both are read before either is stored. The start comes first, since a small song is then read at once.
-    Id3v2Values second = readId3v2(song);
-    cMP3ID3v1 first(files_);
-    first.read(song);
-    store(track, std::move(first));
-    store(track, std::move(second));
-    track.procitan = true;
-    return true;
+    return readAnew(song, row);
   } catch (const platform::FileError&) {
     return false;
   }
+}
+
+bool TagCache::readAnew(SongBytes& song, int row) {
+  if (song.size() == 0) return false;
+  core::Track& track = table_.track(row);
+  // Both are read before either is stored. The start comes first, since a small song is then read at once.
+  Id3v2Values second = readId3v2(song);
+  cMP3ID3v1 first(files_);
+  first.read(song);
+  store(track, std::move(first));
+  store(track, std::move(second));
+  track.procitan = true;
+  return true;
 }
 
 }  // namespace velmora::tags

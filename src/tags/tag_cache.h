@@ -22,6 +22,9 @@ class TagCache {
   bool read(const Text& path, int row, std::optional<std::uint64_t>* bytes = nullptr);
   /// The same for a file that is open already.
   bool read(SongBytes& song, int row);
+  /// The same also for a row that was read already: another program may have changed the file since. Throws
+  /// FileError when it cannot be read, and the columns are then as they were.
+  bool readAnew(SongBytes& song, int row);
 
  private:
   core::TrackTable& table_;

@@ -15,8 +15,8 @@ UpdateResult updateWithDialog(const UpdateContext& context, TextView version, Op
       const Text text = u"Error while Update ID3 " + Text(version) + u" " +
                         context.table.path(context.table.currentRow) + u" #" +
                         core::number(std::int64_t{error.number}) + u" occurred:" + error.description;
-      const auto answer = context.dialogs.message(
-          text, u"Update ID3 tag", platform::Buttons::AbortRetryIgnore, platform::Icon::Critical);
+      const auto answer = context.failures.ask(
+          text, u"Update ID3 tag", context.table.path(context.table.currentRow), error.description);
       if (answer == platform::Answer::Abort) return UpdateResult::Abort;
       if (answer != platform::Answer::Retry) return retried ? UpdateResult::Done : UpdateResult::Ignore;
     }

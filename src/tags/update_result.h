@@ -3,9 +3,9 @@
 #include <functional>
 
 #include "core/track_table.h"
-#include "platform/dialogs.h"
 #include "platform/file_error.h"
 #include "tags/open_song.h"
+#include "ui/failures.h"
 
 namespace velmora::tags {
 
@@ -14,7 +14,7 @@ enum class UpdateResult { Done = 0, Abort = 1, Ignore = 2 };
 
 /// What a tag needs besides its file to report that it could not be written.
 struct UpdateContext {
-  platform::Dialogs& dialogs;
+  ui::Failures& failures;
   const core::TrackTable& table;  ///< the dialog names the path of its current row
 };
 

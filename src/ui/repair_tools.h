@@ -32,11 +32,6 @@ struct RepairTools {
 /// it to all of them, the others leave each file its own value.
 struct FieldChecks {
   CheckBox title, artist, album, year, track, genre;
-  /// True while a command needs each file's own values in all boxes.
-  bool suspended = false;
-
-  /// Whether the box beside `check` keeps what was typed when the panel shows a file.
-  bool keeps(const CheckBox& check) const { return check.checked() && !suspended; }
 };
 
 }  // namespace velmora::ui

@@ -19,7 +19,7 @@ UndoOutcome NameRestorer::restore(const Text& newPath, const journal::RenamePayl
   const Text path = fileToRename(row, newPath, before);
   if (!path.empty()) {
     const RenameResult result =
-        rows::RenameNoList(parts_.files, parts_.dialogs, parts_.player, path, before.path);
+        rows::RenameNoList(parts_.files, parts_.failures, parts_.player, path, before.path);
     if (result == RenameResult::Abort) return UndoOutcome::Abort;
     if (result == RenameResult::Ignore) return UndoOutcome::Done;
   }

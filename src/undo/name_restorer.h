@@ -4,10 +4,10 @@
 
 #include "core/track_table.h"
 #include "journal/undo_record.h"
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/hand_over.h"
 #include "rows/artist_book.h"
+#include "ui/failures.h"
 #include "ui/form1.h"
 #include "undo/undo_outcome.h"
 
@@ -19,7 +19,7 @@ class NameRestorer {
   struct Parts {
     core::TrackTable& table;
     platform::Files& files;
-    platform::Dialogs& dialogs;
+    ui::Failures& failures;
     platform::FileHolder& player;
     rows::ArtistBook& artists;
     ui::Form1& form1;

@@ -144,7 +144,7 @@ UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {
       const bool differs = fill(tag, track);
       if (!genreIsBack(tag, track)) track.procitan = false;
       if (!differs) return;
-      result = makeWritable(path) ? tag.Update({parts_.dialogs, parts_.table}) : UpdateResult::Ignore;
+      result = makeWritable(path) ? tag.Update({parts_.failures, parts_.table}) : UpdateResult::Ignore;
     });
     if (result == UpdateResult::Ignore) track.procitan = false;
     return result == UpdateResult::Abort ? UndoOutcome::Abort : UndoOutcome::Done;

@@ -3,11 +3,11 @@
 #include "core/track_table.h"
 #include "journal/undo_record.h"
 #include "platform/desktop.h"
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/hand_over.h"
 #include "tags/busy_file.h"
 #include "tags/file_panel.h"
+#include "ui/failures.h"
 #include "undo/undo_errors.h"
 #include "undo/undo_outcome.h"
 
@@ -19,7 +19,7 @@ class TagRestorer {
   struct Parts {
     core::TrackTable& table;
     platform::Files& files;
-    platform::Dialogs& dialogs;
+    ui::Failures& failures;
     platform::Desktop& desktop;
     platform::FileHolder& player;
     tags::BusyFile& busyFile;

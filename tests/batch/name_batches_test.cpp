@@ -97,6 +97,15 @@ TEST_F(NameBatches, NamesFromTagsTakeTheTagInView) {
   EXPECT_EQ(names(), (Names{"2", "3", "Tag - Second"}));
 }
 
+TEST_F(NameBatches, ARowWithoutTheChosenTagDoesNotChangeTheChoiceForThoseBehindIt) {
+  const auto tag = [](const Text& title) { return test::SongTags{.title = title, .artist = u"A"}; };
+  add({{u"1", tag(u"1 1"), tag(u"2 1")}, {u"2", {}, tag(u"2 2")}, {u"3", tag(u"1 3"), tag(u"2 3")}});
+  selectAll();
+  form1().tags.viewID3v1.setChosen(true);
+  click(tools().id3ToFn);
+  EXPECT_EQ(names(), (Names{"A - 1 1", "A - 1 3", "A - 2 2"}));
+}
+
 TEST_F(NameBatches, RenameOfSeveralSetsTheBlanksAroundTheirDashes) {
   add({{u"A  -  B"}, {u"C-D"}, {u"no dash"}});
   clickForAll(tools().rename);

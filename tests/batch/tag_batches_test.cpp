@@ -33,7 +33,7 @@ TEST_F(TagBatches, NamesGoIntoTheTagsThatAreMarked) {
   select({u"Arvola - One"});
   EXPECT_FALSE(form1().fieldChecks.album.enabled()) << "there is nothing to share with other files";
   click(tools().fnToId3);
-  EXPECT_EQ(second(u"Arvola - One"), "Arvola|One|A2||0") << "each tag keeps its own other values";
+  EXPECT_EQ(second(u"Arvola - One"), "Arvola|One|A2||") << "each tag keeps its own other values";
   for (int step = 0; step < 2; ++step) undo();
   EXPECT_EQ(first(u"Arvola - One"), "|x|A1||0");
   EXPECT_EQ(second(u"Arvola - One"), "|y|A2||");
@@ -102,7 +102,7 @@ TEST_F(TagBatches, TickedBoxesGoOntoAllSelectedFilesAndTheOthersLeaveEachItsOwn)
   EXPECT_TRUE(form1().tags.album.enabled()) << "one file can be edited as it is";
 }
 
-TEST_F(TagBatches, AFileWithoutTheTagInViewKeepsItsValuesAndTheViewStaysForTheOthers) {
+TEST_F(TagBatches, WhatIsNotTickedStaysInEachTagWhicheverIsInView) {
   const SongTags one{.title = u"one"};
   const SongTags two{.title = u"two"};
   add({{u"a", one, two}, {u"b", one, {}}, {u"c", {}, two}, {u"d", one, two}});
@@ -116,17 +116,54 @@ TEST_F(TagBatches, AFileWithoutTheTagInViewKeepsItsValuesAndTheViewStaysForTheOt
   };
   mark(true, false);
   EXPECT_EQ(share(form1().tags.viewID3v1, u"A"), "|one|A||0 |two|A||0 |one|A||0");
-  EXPECT_EQ(share(form1().tags.viewID3v2, u"B"), "|one|B||0 |two|B||0 |two|B||0");
+  EXPECT_EQ(share(form1().tags.viewID3v2, u"B"), "|one|B||0 |two|B||0 |one|B||0");
 }
 
-TEST_F(TagBatches, AFileThatCannotBeWrittenEndsItsRowAlone) {
-  add({{u"a", {.title = u"x"}}, {u"b", {.title = u"y"}}});
+TEST_F(TagBatches, IgnorePassesOverAFileAndAbortEndsTheBatch) {
+  add({{u"a", {.title = u"x"}}, {u"b", {.title = u"x"}}, {u"c", {.title = u"x"}}});
   selectAll();
   mark(true, false);
   program.files.remove(program.table().path(1));
+  program.dialogs.expectTitle(u"Update ID3 tag", platform::Answer::Ignore);
+  click(tools().fnToId3);
+  EXPECT_EQ(kinds(), (Names{"st1", "bi1", "id3", "id3"}));
+  undo();
   program.dialogs.expectTitle(u"Update ID3 tag", platform::Answer::Abort);
   click(tools().fnToId3);
+  EXPECT_EQ(kinds(), (Names{"st1", "bi1"}));
+}
+
+TEST_F(TagBatches, IgnoreForAllAsksOnceAndTellsAtTheEndWhatWasLeftOut) {
+  add({{u"a"}, {u"b"}, {u"c"}});
+  selectAll();
+  mark(true, false);
+  for (int row = 1; row <= 2; ++row) program.files.remove(program.table().path(row));
+  program.dialogs.ignoreAll = true;
+  program.dialogs.expectTitle(u"Update ID3 tag", platform::Answer::Ignore);
+  program.dialogs.expect(u"2 files were not changed: File not found.", u"Update ID3 Tags From Filename",
+                         platform::Answer::Ok);
+  click(tools().fnToId3);
   EXPECT_EQ(kinds(), (Names{"st1", "bi1", "id3"}));
+}
+
+TEST_F(TagBatches, AFailureOfTheSecondTagKeepsTheRecordOfTheFirst) {
+  add({{u"a", {.title = u"x"}, {.title = u"x"}}});
+  selectAll();
+  mark(true, true);
+  bool firstWritten = false;
+  program.faults.onOperation = [&] {
+    const std::string& operation = program.faults.log.back();
+    if (!operation.starts_with("file write")) return;
+    if (firstWritten) program.faults.failAt(1, platform::FileError::diskFull);
+    firstWritten = operation.ends_with(".mp3");
+  };
+  program.dialogs.expectTitle(u"Update ID3 tag", platform::Answer::Abort);
+  click(tools().fnToId3);
+  program.faults.onOperation = nullptr;
+  EXPECT_EQ(first(u"a"), "|a|||0");
+  EXPECT_EQ(second(u"a"), "|x|||");
+  undo();
+  EXPECT_EQ(first(u"a"), "|x|||0");
 }
 
 }  // namespace

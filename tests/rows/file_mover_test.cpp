@@ -26,7 +26,8 @@ struct FileMoverTest : testing::Test {
   system::PosixFiles files;
   test::ScriptedDialogs dialogs;
   NotingHolder player;
-  FileMover mover{files, dialogs, player};
+  ui::Failures failures{dialogs};
+  FileMover mover{files, failures, player};
 
   Text failure(const Text& path) {
     return u"Error #53 while moving { " + path + u" } occurred: File not found";

@@ -82,6 +82,8 @@ TEST_F(TagFaults, UpdateTagsKeepsTheFramesThatThePanelDoesNotShow) {
   const Bytes before = test::Id3v2Maker().text("TCOM", u"Composer").padding(500).plainBytes() + audio +
                        test::id3v1Tag({}, 5, u"kept");
   const Text path = folder.write(u"song.mp3", before);
+  const core::Settings settings(files, folder.path(u"Settings.ini"));
+  journal::UndoJournal journal(files, settings, folder.path(u"UndoData.txt"));
   for (int nth = 1;; ++nth) {
     SCOPED_TRACE(nth);
     folder.write(u"song.mp3", before);
@@ -95,7 +97,7 @@ TEST_F(TagFaults, UpdateTagsKeepsTheFramesThatThePanelDoesNotShow) {
     TagCache cache(rows, faults);
     FilePanel panel(rows, faults, cache, form1);
     BusyFile busyFile(faults, desktop, form1.statusLabel);
-    TagWriter writer({rows, faults, dialogs, desktop, player, busyFile, panel, form1});
+    TagWriter writer({rows, faults, desktop, player, journal, failures, busyFile, cache, panel, form1});
     panel.info(path, 1);
     form1.tags.title.setText(u"New");
     form1.tags.writeID3v1.setChecked(true);

@@ -13,11 +13,12 @@ namespace velmora::tags {
 
 /// Real files in a folder of their own, and dialogs that answer by a script.
 struct TagFixture : testing::Test {
-  UpdateContext context() { return {dialogs, table}; }
+  UpdateContext context() { return {failures, table}; }
 
   test::TempFolder folder;
   system::PosixFiles files;
   test::ScriptedDialogs dialogs;
+  ui::Failures failures{dialogs};
   core::TrackTable table;
 };
 

@@ -9,6 +9,8 @@
 #include "core/number_text.h"
 #include "core/text.h"
 #include "journal/undo_journal.h"
+#include "journal/undo_record.h"
+#include "platform/file_error.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
 #include "tests/support/scripted_desktop.h"
@@ -36,10 +38,6 @@ struct Writer : TagFixture {
   Writer() {
     form1.tags.viewID3v1.onClick = [this] { panel.showTags(); };
     form1.tags.viewID3v2.onClick = [this] { panel.showTags(); };
-    writer.onWritten = [this](int row, const Text& snapshot) {
-      EXPECT_EQ(row, table.currentRow);
-      snapshots.push_back(snapshot);
-    };
   }
   /// The one row is a file of these bytes, and the panel shows it.
   void show(const Bytes& bytes, const Text& name = u"song.mp3") {
@@ -64,6 +62,15 @@ struct Writer : TagFixture {
     EXPECT_EQ(form1.tags.writeID3v2.checked(), toID3v2);
   }
   const core::Track& row() { return table.track(table.currentRow); }
+  /// What the records in the journal would bring back.
+  std::vector<journal::RowSnapshot> records() {
+    std::vector<journal::RowSnapshot> found;
+    for (const Text& line : journal.readRecords()) {
+      const auto data = journal::parseUndoRecord(line).data;
+      if (data) found.push_back(*journal::parseRowSnapshot(data->rest));
+    }
+    return found;
+  }
   /// Title, track and genre of the tags, read afresh.
   Text firstTag() {
     cMP3ID3v1 tag(files);
@@ -74,7 +81,7 @@ struct Writer : TagFixture {
   Text secondTag() {
     cMP3ID3v2 tag(files);
     tag.setMP3File(table.path(table.currentRow));
-    return tag.Title() + u"|" + tag.Track() + u"|" + tag.TagText("TCON", 1);
+    return tag.Title() + u"|" + tag.Track() + u"|" + tag.OtherGenreName();
   }
 
   const Bytes audio = test::mpegFrames(40);
@@ -87,17 +94,18 @@ struct Writer : TagFixture {
   test::ScriptedDesktop desktop;
   NotingHolder player;
   BusyFile busyFile{files, desktop, form1.statusLabel};
-  TagWriter writer{{table, files, dialogs, desktop, player, busyFile, panel, form1}};
-  std::vector<Text> snapshots;
+  core::Settings settings{files, folder.path(u"Settings.ini")};
+  journal::UndoJournal journal{files, settings, folder.path(u"UndoData.txt")};
+  TagWriter writer{{table, files, desktop, player, journal, failures, busyFile, cache, panel, form1}};
 };
 
 TEST_F(Writer, WritesTheTagsWhoseBoxesAreChecked) {
   show(second + audio + first);
   form1.tags.viewID3v1.click();
-  const Text before = journal::rowSnapshot(table, table.currentRow);
   fill(u"New", u"5", u"Opera");
   update(true, false);
-  EXPECT_EQ(snapshots, std::vector{before}) << "undo gets the row as it was";
+  ASSERT_EQ(records().size(), 1U);
+  EXPECT_EQ(records()[0].tags[1], u"Old") << "undo gets the row as it was";
   EXPECT_TRUE(form1.tags.viewID3v1.chosen()) << "the view stays where it was";
   EXPECT_EQ(form1.tags.title.text(), u"New");
   form1.tags.viewID3v2.click();
@@ -111,7 +119,7 @@ TEST_F(Writer, WritesTheTagsWhoseBoxesAreChecked) {
   fill(u"Newer", u"6", u"Opera");
   update(false, true);
   EXPECT_EQ(firstTag(), u"New|5|103");
-  EXPECT_EQ(secondTag(), u"Newer|6|(103)");
+  EXPECT_EQ(secondTag(), u"Newer|6|Opera");
   EXPECT_EQ(row().vrstaid3v2.text(), u"Opera");
   EXPECT_EQ(form1.tags.title.text(), u"Newer");
 }
@@ -139,9 +147,9 @@ TEST_F(Writer, GenresAndTrackNumbersAsTheyAreTyped) {
   struct {
     TextView genre, track, first, second;
   } cases[] = {{u"Blues", u"12", u"New|12|17", u"New|12|Blues"},  // code 0 is never found
-               {u"  ", u"0", u"New|0|255", u"New|0|(255)"},
+               {u"  ", u"0", u"New|0|255", u"New|0|"},
                {u"Turbo Folk", u"", u"New|0|255", u"New|0|Turbo Folk"},
-               {u"Opera", u"300", u"New|0|103", u"New|300|(103)"}};
+               {u"Opera", u"300", u"New|0|103", u"New|300|Opera"}};
   for (const auto& c : cases) {
     fill(u"New", Text(c.track), Text(c.genre));
     update(true, true);
@@ -158,8 +166,49 @@ TEST_F(Writer, OtherFormatsGetNoTags) {
     EXPECT_EQ(folder.read(name), audio + first);
   }
   show(audio, u"Capitals.MP3");
+  fill(u"New");
   update(true, false);
-  EXPECT_EQ(snapshots.size(), 1U);
+  EXPECT_EQ(records().size(), 1U);
+}
+
+TEST_F(Writer, AnUntouchedBoxKeepsWhatTheFileHoldsAtThatMoment) {
+  show(second + audio + first);
+  // Another program writes the file after it was shown.
+  folder.write(u"song.mp3",
+               Id3v2Maker().values({u"Theirs", u"Old", u"Their album"}).padding(500).plainBytes() + audio +
+                   test::id3v1Tag({u"Theirs", u"Old", u"Their album"}));
+  form1.tags.artist.setText(u"Ours");
+  update(true, true);
+  EXPECT_EQ(row().pesmaid3v1.text() + row().pesmaid3v2.text(), u"TheirsTheirs");
+  EXPECT_EQ(row().albumid3v1.text() + row().albumid3v2.text(), u"Their albumTheir album");
+  EXPECT_EQ(row().pevacID3v1.text() + row().pevacID3v2.text(), u"OursOurs");
+  ASSERT_EQ(records().size(), 1U);
+  EXPECT_EQ(records()[0].tags[1], u"Theirs") << "undo brings back what the write changed";
+  const Bytes written = folder.read(u"song.mp3");
+  update(true, true);
+  EXPECT_EQ(records().size(), 1U) << "nothing was changed since";
+  EXPECT_EQ(folder.read(u"song.mp3"), written);
+}
+
+TEST_F(Writer, ANewTagTakesTheValuesOfTheOtherOneAndABlankOneIsNotMade) {
+  show(audio + first);
+  form1.tags.album.setText(u"Album");
+  update(false, true);
+  EXPECT_EQ(secondTag(), u"Old|3|Rock");
+  EXPECT_EQ(row().albumid3v2.text(), u"Album");
+  EXPECT_EQ(row().albumid3v1.text(), u"Old");
+  show(audio, u"bare.mp3");
+  update(true, true);
+  EXPECT_EQ(folder.read(u"bare.mp3"), audio);
+}
+
+TEST_F(Writer, WhatCannotBeJournalledIsNotWritten) {
+  show(second + audio + first);
+  folder.mkdir(u"UndoData.txt");
+  form1.tags.title.setText(u"New");
+  form1.tags.writeID3v1.setChecked(true);
+  EXPECT_THROW(writer.UpdateTags(), platform::FileError);
+  EXPECT_EQ(folder.read(u"song.mp3"), second + audio + first);
 }
 
 TEST_F(Writer, AbortAndIgnoreEndTheRowWithoutARecord) {
@@ -176,7 +225,7 @@ TEST_F(Writer, AbortAndIgnoreEndTheRowWithoutARecord) {
     dialogs.expect(told(u"ID3 V2"), u"Update ID3 tag", answer);
     update(false, true);
   }
-  EXPECT_TRUE(snapshots.empty());
+  EXPECT_TRUE(records().empty());
 }
 
 TEST_F(Writer, AReadOnlyMarkIsTakenOff) {
@@ -220,12 +269,12 @@ TEST_F(Writer, WaitsWhileAnotherProgramHoldsTheFileUnlessTheWaitIsGivenUp) {
     desktop.then([this] { EXPECT_EQ(form1.statusLabel.text(), u"File is busy, please wait ..."); });
     desktop.then([&] { givesUp ? void(stopped = true) : void(::close(other)); });
     desktop.sleeps.clear();
-    snapshots.clear();
+    const std::size_t before = records().size();
     fill(u"New");
     update(true, false);
     EXPECT_EQ(form1.statusLabel.text(), u"");
     EXPECT_EQ(desktop.sleeps, std::vector(givesUp ? 1 : 2, 1000));
-    EXPECT_EQ(snapshots.empty(), givesUp);
+    EXPECT_EQ(records().size() == before, givesUp);
     EXPECT_TRUE(firstTag().starts_with(givesUp ? u"Old|" : u"New|"));
     if (givesUp) ::close(other);
   }
