@@ -7,11 +7,7 @@
 
 namespace velmora::app {
 
-namespace {
-
-constexpr int artistListView = 3;
-
-}  // namespace
+namespace {}  // namespace
 
 void enableCommands(House& house) {
   const core::TrackTable& table = house.table;
@@ -23,7 +19,7 @@ void enableCommands(House& house) {
   form1.add.setEnabled(!form1.folderTree.path().empty());
   form1.otherFiles.setEnabled(!table.niznomusic.empty());
   form1.assort.setEnabled(hasRows);
-  const bool songsView = table.vrsta == artistListView;
+  const bool songsView = table.vrsta == core::Review::ArtistList;
   house.repair.fields.selectionChanged(musicView && !songsView && form1.List4.SelCount() > 1);
   const int files = musicView ? form1.List4.SelCount() : 0;
   const bool selected = files > 0;

@@ -4,13 +4,7 @@
 
 namespace velmora::app {
 
-namespace {
-
-constexpr int processing = 1;  // values of aktivniprozor
-constexpr int newMusic = 2;
-constexpr int base = 3;
-
-}  // namespace
+using core::WindowAtWork;
 
 void FrontWindow::showBase() {
   parts_.windows.form1.hide();
@@ -18,34 +12,35 @@ void FrontWindow::showBase() {
   parts_.windows.form3.show();
   parts_.windows.form3.bringToFront();
   parts_.windows.form3.showNewMusic.setEnabled(parts_.table.brojfajlova() > 0);
-  parts_.table.aktivniprozor = base;
+  parts_.table.aktivniprozor = WindowAtWork::MusicBase;
 }
 
 void FrontWindow::newMusicActivated() {
-  activated(newMusic);
+  activated(WindowAtWork::NewMusic);
 }
 
 void FrontWindow::baseActivated() {
-  activated(base);
+  activated(WindowAtWork::MusicBase);
 }
 
-void FrontWindow::activated(int window) {
+void FrontWindow::activated(WindowAtWork window) {
   activated_ = window;
   if (!parts_.work.commandRunning()) settle();
 }
 
 void FrontWindow::settle() {
-  const int window = std::exchange(activated_, 0);
+  const WindowAtWork window = std::exchange(activated_, WindowAtWork::NotYetKnown);
   // The notice may arrive after the window was left again.
-  if (window == newMusic && parts_.windows.form2.visible()) parts_.table.aktivniprozor = newMusic;
-  if (window == base && parts_.windows.form3.visible()) parts_.table.aktivniprozor = base;
+  if (window == WindowAtWork::NewMusic && parts_.windows.form2.visible()) parts_.table.aktivniprozor = window;
+  if (window == WindowAtWork::MusicBase && parts_.windows.form3.visible())
+    parts_.table.aktivniprozor = window;
 }
 
 void FrontWindow::showProcessing() {
   parts_.base.storeLists();
   parts_.newMusic.stepAside();
   parts_.windows.form3.hide();
-  parts_.table.aktivniprozor = processing;
+  parts_.table.aktivniprozor = WindowAtWork::Processing;
   parts_.windows.form1.setEnabled(true);
   parts_.windows.form1.show();
   parts_.closing.moze();
@@ -58,7 +53,7 @@ void FrontWindow::assort() {
   parts_.table.sourceprozor = 0;
   parts_.newMusic.toggle();
   if (parts_.settings.get(u"DirZaBazu").empty()) offerBaseFolder();
-  parts_.table.aktivniprozor = base;
+  parts_.table.aktivniprozor = WindowAtWork::MusicBase;
 }
 
 void FrontWindow::offerBaseFolder() {
@@ -72,13 +67,13 @@ void FrontWindow::offerBaseFolder() {
 void FrontWindow::closeProcessing() {
   ui::Form1& form1 = parts_.windows.form1;
   if (!form1.visible()) return;
-  if (parts_.table.vrsta != 0) {
+  if (parts_.table.vrsta != core::Review::None) {
     const platform::Answer answer =
         parts_.dialogs.message(u"Process in progres and will be stopped. You want to continue ?",
                                u"Processing Window", platform::Buttons::YesNo, platform::Icon::Question);
     if (answer != platform::Answer::Yes) return;
     raise(parts_.events.onExitReview);
-    parts_.table.vrsta = 0;
+    parts_.table.vrsta = core::Review::None;
   }
   assort();
 }

@@ -45,11 +45,12 @@ class FrontWindow {
   void settle();
 
  private:
-  void activated(int window);
+  void activated(core::WindowAtWork window);
   void offerBaseFolder();
 
   Parts parts_;
-  int activated_ = 0;  // the window of the last notice, until it counts
+  /// The window of the last notice, until it counts.
+  core::WindowAtWork activated_ = core::WindowAtWork::NotYetKnown;
 };
 
 }  // namespace velmora::app

@@ -9,8 +9,6 @@ namespace velmora::app {
 
 namespace {
 
-constexpr int newMusicInFront = 2;  // values of aktivniprozor
-constexpr int baseInFront = 3;
 constexpr TextView showCaption = u"     Show New Music Window    ";
 constexpr TextView hideCaption = u"     Hide New Music Window    ";
 
@@ -28,12 +26,12 @@ void NewMusicWindow::open() {
   parts_.screen.share();
   load();
   windows.form2.show();
-  parts_.table.aktivniprozor = baseInFront;
+  parts_.table.aktivniprozor = core::WindowAtWork::MusicBase;
 }
 
 void NewMusicWindow::load() {
   core::TrackTable& table = parts_.table;
-  table.aktivniprozor = baseInFront;
+  table.aktivniprozor = core::WindowAtWork::MusicBase;
   parts_.summary.forget();
   parts_.lists.listVolumes();
   guarded([&] {
@@ -51,15 +49,15 @@ void NewMusicWindow::load() {
 }
 
 void NewMusicWindow::close() {
-  parts_.table.aktivniprozor = newMusicInFront;
+  parts_.table.aktivniprozor = core::WindowAtWork::NewMusic;
   leave();
   parts_.windows.form3.bringToFront();
-  parts_.table.aktivniprozor = baseInFront;
+  parts_.table.aktivniprozor = core::WindowAtWork::MusicBase;
 }
 
 void NewMusicWindow::leave() {
   parts_.windows.form3.showNewMusic.setCaption(Text(showCaption));
-  if (parts_.table.aktivniprozor == newMusicInFront) parts_.table.sourceprozor = 0;
+  if (parts_.table.aktivniprozor == core::WindowAtWork::NewMusic) parts_.table.sourceprozor = 0;
   if (isOpen()) guarded([&] { parts_.state.store(); });
   parts_.windows.form2.hide();
   parts_.screen.giveBack();

@@ -15,7 +15,6 @@ namespace velmora::app {
 namespace {
 
 constexpr TextView defaultWinampFile = u"c:\\Program Files\\Winamp\\winamp.exe";
-constexpr int artistListReview = 3;
 constexpr int quietest = -10000;  // hundredths of a decibel
 
 /// Fields of `stanje0`.
@@ -86,7 +85,7 @@ void ProcessingWindow::restoreLists() {
   guarded([&] {
     selectAgain(form1_.List1, state[Artists]);
     selectAgain(form1_.List2, state[Songs]);
-    if (table_.vrsta != artistListReview) selectAgain(form1_.List4, state[Files]);
+    if (table_.vrsta != core::Review::ArtistList) selectAgain(form1_.List4, state[Files]);
     scrollAgain(form1_.List1, state[TopArtist]);
     scrollAgain(form1_.List2, state[TopSong]);
     scrollAgain(form1_.List4, state[TopFile]);

@@ -12,8 +12,8 @@ void unloadForm1(House& house) {
   core::Settings& settings = house.settings;
   guarded([&] { house.processing.store(); });
   guarded([&] {
-    settings.setNumber(u"aktivniprozor", table.aktivniprozor);
-    settings.setNumber(u"vrsta", table.vrsta);
+    settings.setNumber(u"aktivniprozor", static_cast<int>(table.aktivniprozor));
+    settings.setNumber(u"vrsta", static_cast<int>(table.vrsta));
   });
   guarded([&] { house.data.savenizove(table); });
   guarded([&] {

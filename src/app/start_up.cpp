@@ -12,8 +12,6 @@ namespace velmora::app {
 
 namespace {
 
-constexpr int processingInFront = 1;  // aktivniprozor
-
 bool givesWay(House& house) {
   if (!house.services.desktop.anotherInstanceRunning()) return false;
   const platform::Answer answer = house.services.dialogs.message(
@@ -30,9 +28,10 @@ void loadForm1(House& house) {
   guarded([&] { house.options.loadForm5(); });
   guarded([&] { house.options.loadForm6(); });
   guarded([&] { house.options.loadDialog2(); });
-  guarded([&] { table.aktivniprozor = core::intValue(house.settings.get(u"aktivniprozor")); });
+  guarded(
+      [&] { table.aktivniprozor = core::windowOf(core::intValue(house.settings.get(u"aktivniprozor"))); });
   house.loader.load();
-  table.vrsta = 0;
+  table.vrsta = core::Review::None;
   house.loaded = true;
 }
 
@@ -54,11 +53,8 @@ void showTip(House& house) {
 }
 
 /// The review that ran when the program last ended; what is none counts as none.
-int storedReview(const House& house) {
-  const int stored = core::intValue(house.settings.get(u"vrsta"));
-  for (const int review : {1, 2, 3, 11, 12, 98})
-    if (stored == review) return review;
-  return 0;
+core::Review storedReview(const House& house) {
+  return core::reviewOf(core::intValue(house.settings.get(u"vrsta")));
 }
 
 void resume(House& house, const std::function<void()>& review) {
@@ -66,16 +62,16 @@ void resume(House& house, const std::function<void()>& review) {
 }
 
 void startInProcessingWindow(House& house) {
-  const int review = storedReview(house);
+  const core::Review review = storedReview(house);
   house.table.vrsta = review;
   house.windows.form1.show();
   pump(house);
   guarded([&] { showTip(house); });
-  if (review == 3) resume(house, house.events.onResumeArtistList);
+  if (review == core::Review::ArtistList) resume(house, house.events.onResumeArtistList);
   house.processing.restoreLists();
-  if (review == 2) {
+  if (review == core::Review::Duplicates) {
     resume(house, house.events.onResumeDuplicates);
-  } else if (review != 0 && review != 3) {
+  } else if (review != core::Review::None && review != core::Review::ArtistList) {
     resume(house, house.events.onResumeCheckFix);
   }
 }
@@ -98,7 +94,7 @@ void finishForm1(House& house) {
   house.windows.form1.tags.genre.setRows(tags::genreRows());
   enableCommands(house);
   // What is selected again is shown again.
-  if (house.table.vrsta == 0) guarded([&] { raise(house.windows.form1.List4.onClick); });
+  if (house.table.vrsta == core::Review::None) guarded([&] { raise(house.windows.form1.List4.onClick); });
 }
 
 }  // namespace
@@ -106,7 +102,7 @@ void finishForm1(House& house) {
 void startUp(House& house) {
   if (givesWay(house)) return giveWay(house);
   loadForm1(house);
-  if (house.table.aktivniprozor == processingInFront) {
+  if (house.table.aktivniprozor == core::WindowAtWork::Processing) {
     startInProcessingWindow(house);
   } else {
     startInBaseWindow(house);

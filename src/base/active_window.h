@@ -10,7 +10,7 @@ namespace velmora::base {
 /// lives.
 class ActiveWindow {
  public:
-  ActiveWindow(core::TrackTable& table, int window)
+  ActiveWindow(core::TrackTable& table, core::WindowAtWork window)
       : table_(table), before_(std::exchange(table.aktivniprozor, window)) {}
   ~ActiveWindow() { table_.aktivniprozor = before_; }
   ActiveWindow(const ActiveWindow&) = delete;
@@ -18,7 +18,7 @@ class ActiveWindow {
 
  private:
   core::TrackTable& table_;
-  int before_;
+  core::WindowAtWork before_;
 };
 
 }  // namespace velmora::base

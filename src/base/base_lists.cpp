@@ -16,7 +16,6 @@ using ui::ListItem;
 
 namespace {
 
-constexpr int baseWindow = 3;
 constexpr TextView albumKey = u"album=";
 
 Text clickedText(const ui::ListBox& list) {
@@ -45,7 +44,7 @@ void BaseLists::readRoot() {
 }
 
 bool BaseLists::atWork() const {
-  return parts_.table.aktivniprozor == baseWindow && !driven;
+  return parts_.table.aktivniprozor == core::WindowAtWork::MusicBase && !driven;
 }
 
 bool BaseLists::diverted(ui::ListBox& list) {
@@ -300,7 +299,7 @@ void BaseLists::List8DoubleClick() {
 void BaseLists::play(int title) {
   const Text path = filePath(parts_.form3.List8.ItemData(title));
   if (quiet() || path.empty()) return;
-  parts_.table.aktivniprozor = baseWindow;
+  parts_.table.aktivniprozor = core::WindowAtWork::MusicBase;
   if (onPlay) onPlay(path);
 }
 

@@ -20,8 +20,6 @@ using platform::Icon;
 
 namespace {
 
-constexpr int newMusicWindow = 2;
-constexpr int deletingFiles = 5;
 constexpr int extensionLength = 4;  // dot included
 constexpr TextView deleteTitle = u"Delete";
 
@@ -46,7 +44,7 @@ void FileCommands::ren() {
   const Text newPath = Text(paths::folderPart(path)) + nameFor(file, typed);
   if (path.empty() || !rename(path, newPath)) return;
   {
-    const ActiveWindow quiet(parts_.table, newMusicWindow);
+    const ActiveWindow quiet(parts_.table, core::WindowAtWork::NewMusic);
     parts_.lists.listTitles();
   }
   for (int index = 0; index < form3.List8.ListCount(); ++index) {
@@ -109,7 +107,7 @@ void FileCommands::deleteFiles(const std::vector<int>& files) {
 
   ui::ListBox& titles = parts_.windows.form3.List8;
   const int top = titles.TopIndex();
-  const ActiveWindow deleting(parts_.table, deletingFiles);
+  const ActiveWindow deleting(parts_.table, core::WindowAtWork::DeletingFiles);
   parts_.lists.listTitles();
   ui::ListRestoreTop(titles, top);
 }

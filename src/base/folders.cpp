@@ -13,11 +13,7 @@ namespace velmora::base {
 
 using platform::FileError;
 
-namespace {
-
-constexpr int newMusicWindow = 2;
-
-}  // namespace
+namespace {}  // namespace
 
 bool Folders::PostojiDir(TextView path) {
   const Text folder(core::paths::withoutSeparator(path));
@@ -26,8 +22,8 @@ bool Folders::PostojiDir(TextView path) {
   if (!parts_.files.folderExists(Text(core::paths::folderPart(folder))))
     throw FileError(FileError::pathNotFound);
   std::optional<journal::PendingRecord> record;
-  if (parts_.table.aktivniprozor == newMusicWindow)
-    record.emplace(parts_.journal, "mkd", core::trim(folder), TextView());
+  if (parts_.table.aktivniprozor == core::WindowAtWork::NewMusic)
+    record.emplace(parts_.journal, journal::kind::folderMade, core::trim(folder), TextView());
   parts_.files.makeFolder(folder);
   if (record) record->keep();
   return false;

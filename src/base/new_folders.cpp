@@ -11,8 +11,6 @@ namespace velmora::base {
 
 namespace {
 
-constexpr int baseWindow = 3;
-
 void selectAlone(ui::ListBox& list, int index) {
   list.select({index}, index);
   ui::ListShowRow(list, index);
@@ -29,14 +27,14 @@ bool NewFolders::haveRoot() {
 }
 
 bool NewFolders::mayMake() {
-  const bool mayAsk = parts_.table.aktivniprozor == baseWindow;
+  const bool mayAsk = parts_.table.aktivniprozor == core::WindowAtWork::MusicBase;
   return mayAsk ? haveRoot() : !parts_.lists.root().empty();
 }
 
 /// The name to make, which the box holds then; empty when there is none.
 template <typename Box>
 Text NewFolders::nameFrom(Box& box) {
-  if (parts_.table.aktivniprozor == baseWindow) {
+  if (parts_.table.aktivniprozor == core::WindowAtWork::MusicBase) {
     const std::optional<Text> typed =
         parts_.dialogs.input(u"New Folder Name:", u"Create New Folder", box.text());
     if (!typed) return {};

@@ -9,7 +9,7 @@
 namespace velmora::base {
 
 /// "New" under the three columns of folders. In the Music Base Window it asks for the name; while the New
-/// Music Window is at work (`aktivniprozor` 2) the name box tells it. The box holds the folder's name
+/// Music Window is at work the name box tells it. The box holds the folder's name
 /// afterwards. A folder that cannot be made ends the command without a word.
 class NewFolders {
  public:

@@ -19,8 +19,6 @@ namespace {
 constexpr int pauseBelowVersion = 260;  // older systems need a moment after a file was let go
 constexpr int pauseMilliseconds = 100;
 constexpr int extensionLength = 4;  // dot included
-constexpr int duplicatesView = 2;
-constexpr int artistListView = 3;
 
 /// What of a name can stand on the disk, and in the records of the journal.
 Text cleanName(TextView typed) {
@@ -91,8 +89,8 @@ rows::RenameResult Renamer::renameOnce(int row, const Text& name, bool withUndo)
   findDash(row, old);
   parts_.artists.IzbaciAutora(old.artist);
   const bool aborted = withUndo && followWithTags(row, old) == tags::UpdateResult::Abort;
-  if (table.vrsta == duplicatesView && onDuplicateRenamed) onDuplicateRenamed(row);
-  if (table.vrsta == duplicatesView || table.vrsta == artistListView)
+  if (table.vrsta == core::Review::Duplicates && onDuplicateRenamed) onDuplicateRenamed(row);
+  if (table.vrsta == core::Review::Duplicates || table.vrsta == core::Review::ArtistList)
     parts_.artists.DodajAutora(table.track(row).pevac.text());
   return aborted ? rows::RenameResult::Abort : rows::RenameResult::Done;
 }
@@ -107,7 +105,7 @@ Text Renamer::moveToFreeName(int row, Text name, bool withUndo) {
     try {
       std::optional<journal::PendingRecord> record;
       if (withUndo)
-        record.emplace(parts_.journal, "ren", newPath,
+        record.emplace(parts_.journal, journal::kind::renamed, newPath,
                        journal::renamePayload(parts_.table, row, parts_.files.identity(oldPath)));
       parts_.files.move(oldPath, newPath);
       if (record) record->keep();
@@ -121,7 +119,7 @@ Text Renamer::moveToFreeName(int row, Text name, bool withUndo) {
 void Renamer::showNewPath(int row, const OldName& old, const Text& newPath) {
   ui::Form1& form1 = parts_.form1;
   if (row <= parts_.table.brojfajlova() && !form1.ostali.chosen()) form1.List4.setList(row - 1, newPath);
-  if (parts_.table.vrsta != duplicatesView) return;
+  if (parts_.table.vrsta != core::Review::Duplicates) return;
   for (int index = 0; index < form1.List6.ListCount(); ++index)
     if (form1.List6.List(index) == old.path) return form1.List6.setList(index, newPath);
 }

@@ -4,14 +4,8 @@
 
 namespace velmora::batch {
 
-namespace {
-
-constexpr int artistListView = 3;
-
-}  // namespace
-
 void TagBatches::fromNames() {
-  const bool songs = parts_.table.vrsta == artistListView;
+  const bool songs = parts_.table.vrsta == core::Review::ArtistList;
   parts_.frame.run(u"Update ID3 Tags From Filename ...",
                    songs ? parts_.frame.selectedSongs() : parts_.frame.selectedRows(), [this](int row) {
                      const core::Track& track = parts_.table.track(row);
@@ -21,7 +15,7 @@ void TagBatches::fromNames() {
 }
 
 void TagBatches::update() {
-  const bool songs = parts_.table.vrsta == artistListView;
+  const bool songs = parts_.table.vrsta == core::Review::ArtistList;
   const std::vector<int> rows = songs ? parts_.frame.selectedSongs() : parts_.frame.selectedRows();
   if (rows.empty()) return;
   ui::Button& button = parts_.form1.update;

@@ -18,7 +18,8 @@ std::unordered_map<Text, Text> earlierPaths(const journal::UndoJournal& journal,
   std::unordered_map<Text, Text> earlier;
   journal.visitFromNewest([&](const Text& line, std::uint64_t) {
     const journal::UndoRecord record = journal::parseUndoRecord(line);
-    if (record.kind != u"ren" || !record.data || paths.erase(Text(record.data->first)) == 0) return true;
+    if (!record.is(journal::kind::renamed) || !record.data || paths.erase(Text(record.data->first)) == 0)
+      return true;
     if (const auto before = journal::parseRenamePayload(record.data->rest))
       earlier.emplace(record.data->first, before->path);
     return !paths.empty();

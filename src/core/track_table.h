@@ -9,6 +9,8 @@
 
 #include "core/element.h"
 #include "core/gap_vector.h"
+#include "core/review.h"
+#include "core/window_at_work.h"
 #include "platform/text.h"
 
 namespace velmora::core {
@@ -100,15 +102,15 @@ class TrackTable {
   int brojbaza = 0;           ///< entries in bazepesama
   double velicinasfiles = 0;  ///< bytes of the files of the working list
   bool Stop = false;          ///< set by the Stop button; long loops end at the next file
-  int aktivniprozor = 0;      ///< window in front: 1 Processing, 2 New Music, 3 Music Base, 0 not yet known
-  int sourceprozor = 0;       ///< 1 while the New Music Window is open
-  int puniliste = 0;          ///< 1 while code refills lists, which keeps click handlers quiet
-  int vrsta = 0;              ///< review in progress: 0 none, 1/11/12/98 Check+Fix, 2 duplicates, 3 artists
-  int ton = 0;                ///< sound of the preview player, hundredths of a decibel
-  int playonwinamp = 0;       ///< 1 when a double click plays in the external player
-  Text winampfile;            ///< path of the external player
-  Text dirzabazu;             ///< Music Base folder as the Processing Window last read it
-  int currentRow = 0;         ///< row that the panel shows; 0 before the first
+  WindowAtWork aktivniprozor = WindowAtWork::NotYetKnown;  ///< window whose commands act
+  int sourceprozor = 0;                                    ///< 1 while the New Music Window is open
+  int puniliste = 0;            ///< 1 while code refills lists, which keeps click handlers quiet
+  Review vrsta = Review::None;  ///< review in progress
+  int ton = 0;                  ///< sound of the preview player, hundredths of a decibel
+  int playonwinamp = 0;         ///< 1 when a double click plays in the external player
+  Text winampfile;              ///< path of the external player
+  Text dirzabazu;               ///< Music Base folder as the Processing Window last read it
+  int currentRow = 0;           ///< row that the panel shows; 0 before the first
 
  private:
   void reserveRow(int row);

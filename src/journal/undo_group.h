@@ -9,8 +9,8 @@ namespace velmora::journal {
 /// group lasts as long as its changes. Throws NotRecorded; nothing must be changed then.
 [[nodiscard]] inline UndoJournal::Group openUndoGroup(UndoJournal& journal, const ui::Form1& form1) {
   UndoJournal::Group group(journal);
-  journal.appendUndoMarker("st1");
-  journal.appendUndoRecord("bi1", selectionSnapshot(form1), {});
+  journal.appendUndoMarker(kind::processing);
+  journal.appendUndoRecord(kind::selection, selectionSnapshot(form1), {});
   return group;
 }
 

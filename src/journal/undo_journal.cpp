@@ -1,7 +1,6 @@
 #include "journal/undo_journal.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <utility>
 
@@ -15,18 +14,8 @@ namespace velmora::journal {
 
 namespace {
 
-constexpr std::array<std::string_view, 7> markerKinds = {"new", "fix", "dup", "st1", "st2", "dst", "fst"};
-constexpr std::size_t kindLength = 3;
 constexpr BytesView lineEnd = "\r\n";
-constexpr std::size_t roomForLength = 8;    // characters, the blank behind the text included
-constexpr std::size_t usualSnapshot = 400;  // characters
-
-constexpr std::array<core::Column, 14> snapshotColumns = {
-    &core::Track::pevacID3v1,  &core::Track::pesmaid3v1,     &core::Track::albumid3v1,
-    &core::Track::godinaid3v1, &core::Track::brojtrakeid3v1, &core::Track::vrstaid3v1,
-    &core::Track::pevacID3v2,  &core::Track::pesmaid3v2,     &core::Track::albumid3v2,
-    &core::Track::godinaid3v2, &core::Track::brojtrakeid3v2, &core::Track::vrstaid3v2,
-    &core::Track::nizdes,      &core::Track::crtapos};
+constexpr std::size_t roomForLength = 8;  // characters, the blank behind the text included
 
 /// The record between its quotes, with a line end. A line break that would look like the end of the record is
 /// written as a blank, which leaves all lengths right.
@@ -176,8 +165,8 @@ std::string UndoJournal::lastUndoMarker() const {
   if (!settings_.exists() || !exists()) return marker;
   const auto file = files_.open(path_, platform::OpenMode::Read);
   journal_lines::visitFromEnd(*file, [&marker](BytesView record, std::uint64_t) {
-    const BytesView kind = record.substr(0, kindLength);
-    if (std::ranges::find(markerKinds, kind) != markerKinds.end()) marker = kind;
+    const BytesView letters = record.substr(0, kind::length);
+    if (std::ranges::find(kind::stopsOfUndo, letters) != kind::stopsOfUndo.end()) marker = letters;
     return marker.empty();
   });
   return marker;
@@ -228,17 +217,6 @@ Text lengthPrefixed(TextView text) {
   Text prefixed;
   appendPrefixed(prefixed, text);
   return prefixed;
-}
-
-Text rowSnapshot(const core::TrackTable& table, int row) {
-  const core::Track& track = table.track(row);
-  Text snapshot;
-  snapshot.reserve(usualSnapshot);
-  for (const core::Element* flag : {&track.procitan, &track.imaid3v1, &track.imaid3v2})
-    snapshot += flag->isTrue() ? u'1' : u'0';
-  for (const core::Column column : snapshotColumns) appendPrefixed(snapshot, (track.*column).text());
-  appendPrefixed(snapshot, core::number(std::int64_t{table.brojfajlova()}));
-  return snapshot;
 }
 
 }  // namespace velmora::journal

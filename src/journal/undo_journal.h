@@ -11,6 +11,7 @@
 
 #include "core/settings.h"
 #include "core/track_table.h"
+#include "journal/record_kind.h"
 #include "platform/file_error.h"
 #include "platform/files.h"
 
@@ -118,8 +119,5 @@ class UndoJournal {
 
 /// A text with its length in front: three digits, or, from 1000 characters on, "#", the digits and ":".
 Text lengthPrefixed(TextView text);
-/// Three flags and fifteen L(x) fields: the tag columns, path and dash position of a row, and the count of
-/// rows of the working list.
-Text rowSnapshot(const core::TrackTable& table, int row);
 
 }  // namespace velmora::journal

@@ -1,18 +1,19 @@
 #include "journal/undo_record.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string>
 #include <utility>
 
 #include "core/number_text.h"
 #include "core/text.h"
+#include "journal/record_kind.h"
 #include "journal/undo_journal.h"
 
 namespace velmora::journal {
 
 namespace {
 
-constexpr std::size_t kindLength = 3;
 constexpr std::size_t lengthDigits = 3;
 constexpr std::size_t mostDigits = 9;  // of the length of a field that three digits cannot tell
 
@@ -75,15 +76,19 @@ std::optional<TextView> longSelection(TextView fields) {
 
 }  // namespace
 
+bool UndoRecord::is(std::string_view other) const {
+  return std::ranges::equal(kind, other);
+}
+
 UndoRecord parseUndoRecord(TextView line) {
-  UndoRecord record{line.substr(0, kindLength), {}};
-  if (line.size() <= kindLength) return record;
-  if (record.kind == u"bi1")
-    if (const auto snapshot = longSelection(line.substr(kindLength))) {
+  UndoRecord record{line.substr(0, kind::length), {}};
+  if (line.size() <= kind::length) return record;
+  if (record.is(kind::selection))
+    if (const auto snapshot = longSelection(line.substr(kind::length))) {
       record.data = UndoRecord::Data{*snapshot, {}};
       return record;
     }
-  FieldReader fields(line.substr(kindLength));
+  FieldReader fields(line.substr(kind::length));
   const std::optional<TextView> first = fields.next();
   if (first && fields.left().starts_with(u' '))
     record.data = UndoRecord::Data{*first, fields.left().substr(1)};
@@ -134,6 +139,20 @@ const std::array<core::Column, 12>& snapshotColumns() {
       &Track::brojtrakeid3v1, &Track::vrstaid3v1,  &Track::pevacID3v2,     &Track::pesmaid3v2,
       &Track::albumid3v2,     &Track::godinaid3v2, &Track::brojtrakeid3v2, &Track::vrstaid3v2};
   return columns;
+}
+
+Text rowSnapshot(const core::TrackTable& table, int row) {
+  const core::Track& track = table.track(row);
+  Text snapshot;
+  constexpr std::size_t usualSnapshot = 400;  // characters
+  snapshot.reserve(usualSnapshot);
+  for (const core::Element* flag : {&track.procitan, &track.imaid3v1, &track.imaid3v2})
+    snapshot += flag->isTrue() ? u'1' : u'0';
+  for (const core::Column column : snapshotColumns()) snapshot += lengthPrefixed((track.*column).text());
+  snapshot += lengthPrefixed(track.nizdes.text());
+  snapshot += lengthPrefixed(track.crtapos.text());
+  snapshot += lengthPrefixed(core::number(std::int64_t{table.brojfajlova()}));
+  return snapshot;
 }
 
 std::optional<RowSnapshot> parseRowSnapshot(TextView text) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 #include "core/track_table.h"
 #include "platform/text.h"
@@ -21,6 +22,9 @@ struct UndoRecord {
     TextView rest;
   };
   std::optional<Data> data;
+
+  /// Whether it is of this kind, one of those in record_kind.h.
+  bool is(std::string_view other) const;
 };
 /// The parts of `line`, which they point into.
 UndoRecord parseUndoRecord(TextView line);
@@ -71,8 +75,12 @@ struct RowSnapshot {
   Text crtapos;
   int brojfajlova;
 };
-/// The twelve tag columns that a row snapshot holds, in its order.
+/// The twelve tag columns that a row snapshot holds, in its order; the path and the dash position follow
+/// them.
 const std::array<core::Column, 12>& snapshotColumns();
+/// Three flags and fifteen L(x) fields: the tag columns, path and dash position of a row, and the count of
+/// rows of the working list.
+Text rowSnapshot(const core::TrackTable& table, int row);
 std::optional<RowSnapshot> parseRowSnapshot(TextView text);
 
 }  // namespace velmora::journal

@@ -17,7 +17,7 @@ void addMatches(std::vector<Text>& matches, const std::vector<Text>& artists, Te
 }  // namespace
 
 void ArtistCompletion::boxChanged() {
-  if (quiet() || form1_.List4.ListCount() == 0 || table_.vrsta == 11) return;
+  if (quiet() || form1_.List4.ListCount() == 0 || table_.vrsta == core::Review::WhoIsArtist) return;
   const ui::QuietLists quietly(table_);
   closeOffer();
   const TextView typed = core::trim(core::left(box().text(), box().cursor()));

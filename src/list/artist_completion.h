@@ -24,7 +24,7 @@ class ArtistCompletion {
 
  private:
   bool quiet() const { return !form1_.enabled() || table_.puniliste == 1; }
-  bool artistListView() const { return table_.vrsta == 3; }
+  bool artistListView() const { return table_.vrsta == core::Review::ArtistList; }
   ui::TextBox& box() { return artistListView() ? form1_.Text8 : form1_.Text1; }
   bool playNeighbour(int step);
   void closeOffer();

@@ -15,12 +15,7 @@ namespace velmora::list {
 
 using platform::FileError;
 
-namespace {
-
-constexpr int duplicatesView = 2;
-constexpr int processingWindow = 1;
-
-}  // namespace
+namespace {}  // namespace
 
 void DeleteFiles::deleteFromList(bool withoutAsking) {
   if (parts_.form1.List4.SelCount() == 0) return;
@@ -55,7 +50,7 @@ void DeleteFiles::deleteSelected() {
   if (ui::viewOf(parts_.form1) == ui::View::Other) return deleteOthers();
   const core::TrackTable& table = parts_.table;
   const bool beyondRows =
-      table.vrsta == duplicatesView && parts_.form1.List4.ListCount() > table.brojfajlova();
+      table.vrsta == core::Review::Duplicates && parts_.form1.List4.ListCount() > table.brojfajlova();
   deleteRows(selectedRows(), !beyondRows);
 }
 
@@ -96,9 +91,9 @@ void DeleteFiles::deleteRows(std::vector<int> rows, bool withSelection) {
     if (withSelection)
       journal::openUndoGroup(parts_.journal, parts_.form1).end();
     else
-      parts_.journal.appendUndoMarker("st1");
+      parts_.journal.appendUndoMarker(journal::kind::processing);
     parts_.data.beginChange();
-    if (parts_.table.aktivniprozor == processingWindow) parts_.progress.show(u"Delete ...");
+    if (parts_.table.aktivniprozor == core::WindowAtWork::Processing) parts_.progress.show(u"Delete ...");
     try {
       const rows::ArtistBook::Batch artists(parts_.artists);
       for (std::size_t i = 0; i < rows.size() && !parts_.table.Stop; ++i) {
@@ -133,7 +128,7 @@ void DeleteFiles::deleteRow(int row) {
     if (working)
       parts_.table.velicinasfiles = std::max(0.0, parts_.table.velicinasfiles - static_cast<double>(size));
     if (trashPath.empty()) return;
-    parts_.journal.appendUndoRecord("del", journal::deletedFile(size, path), trashPath);
+    parts_.journal.appendUndoRecord(journal::kind::fileDeleted, journal::deletedFile(size, path), trashPath);
   } catch (const FileError&) {
     // What cannot be taken back must not stay.
     if (!trashPath.empty()) parts_.trash.bringBack(trashPath, path);

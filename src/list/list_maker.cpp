@@ -39,7 +39,7 @@ void ListMaker::newList() {
   for (ui::ListBox* list : {&form1.List4, &form1.List1, &form1.List2, &form1.List7, &form1.List8})
     list->Clear();
   try {
-    parts_.journal.appendUndoMarker("new");
+    parts_.journal.appendUndoMarker(journal::kind::newList);
   } catch (const platform::FileError&) {
     // The history ends below whether or not it could be marked.
   }
@@ -252,7 +252,7 @@ void ListMaker::collectArtists() {
   core::TrackTable& table = parts_.table;
   parts_.artists.collect([this, &table](int row) {
     parts_.progress.UpdateProgress(50 + 50.0 * row / table.brojfajlova());
-    if (table.vrsta != 3) return true;
+    if (table.vrsta != core::Review::ArtistList) return true;
     if (onArtistList) onArtistList();
     return false;
   });

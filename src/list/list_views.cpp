@@ -77,12 +77,13 @@ void ListViews::List4Click() {
   const int index = selectedIndex(form1.List4);
   if (index < 0) return;
   const int row = index + 1;
-  const int vrsta = parts_.table.vrsta;
+  const core::Review vrsta = parts_.table.vrsta;
   // The name box changes without the user typing: there is nothing to complete.
   const ui::QuietLists quietly(parts_.table);
   form1.List3.Clear();
   form1.List3.setVisible(false);
-  if (vrsta == 1 || vrsta == 2 || vrsta == 11 || vrsta == 12) {
+  if (vrsta == core::Review::CheckFix || vrsta == core::Review::Duplicates ||
+      vrsta == core::Review::WhoIsArtist || vrsta == core::Review::ArtistExists) {
     form1.Text1.setText(names::ImeFajla(parts_.table, row));
     return;
   }
@@ -91,7 +92,7 @@ void ListViews::List4Click() {
 }
 
 void ListViews::List1Click() {
-  if (quiet() || parts_.table.vrsta != 3) return;
+  if (quiet() || parts_.table.vrsta != core::Review::ArtistList) return;
   ui::Form1& form1 = parts_.windows.form1;
   std::vector<Text> artists;
   for (const int index : form1.List1.selectedIndexes()) artists.push_back(form1.List1.List(index));

@@ -6,8 +6,6 @@ namespace velmora::names {
 
 namespace {
 
-constexpr int artistListView = 3;
-
 Capitals chosenCapitals(const ui::CheckBox& on, const ui::OptionButton& everyUpper,
                         const ui::OptionButton& firstOfWord, const ui::OptionButton& onlyFirst) {
   if (!on.checked()) return Capitals::Keep;
@@ -48,7 +46,7 @@ Text SyntaxFixer::fixedName(TextView name) const {
 
 void SyntaxFixer::fixTextBox() {
   form1_.Text1.setText(fixedName(form1_.Text1.text()));
-  if (table_.vrsta != artistListView) return;
+  if (table_.vrsta != core::Review::ArtistList) return;
   form1_.Text8.setText(Filter(form1_.Text8.text(), Filautora()));
   form1_.Text5.setText(Filter(form1_.Text5.text(), Filpesme()));
 }

@@ -96,7 +96,7 @@ void MoveCommands::moveTitle() {
 void MoveCommands::run(MoveColumn column, const Text& caption,
                        const std::function<Text(MoveCollect&)>& plan) {
   {
-    const base::ActiveWindow atWork(parts_.table, newMusicWindow);
+    const base::ActiveWindow atWork(parts_.table, core::WindowAtWork::NewMusic);
     const base::Busy busy(parts_.windows, parts_.progress, caption);
     auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
     parts_.data.beginChange();

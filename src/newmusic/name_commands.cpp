@@ -22,7 +22,7 @@ void NameCommands::refuse(const Text& text) {
 void NameCommands::nameGenre() {
   if (!parts_.newFolders.haveRoot()) return;
   const auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
-  const base::ActiveWindow atWork(parts_.table, newMusicWindow);
+  const base::ActiveWindow atWork(parts_.table, core::WindowAtWork::NewMusic);
   form3_.Combo1.setText(form2_.Combo1.text());
   parts_.newFolders.newGenre();
 }
@@ -30,7 +30,7 @@ void NameCommands::nameGenre() {
 void NameCommands::nameArtist() {
   if (form3_.List1.SelCount() != 1) return refuse(u"Select only ONE item in genre list from Base.");
   const auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
-  const base::ActiveWindow atWork(parts_.table, newMusicWindow);
+  const base::ActiveWindow atWork(parts_.table, core::WindowAtWork::NewMusic);
   clickSelected(form3_.List1);
   form3_.Text2.setText(form2_.Text2.text());
   parts_.newFolders.newArtist();
@@ -40,7 +40,7 @@ void NameCommands::nameAlbum() {
   if (form3_.List1.SelCount() != 1 || form3_.List2.SelCount() != 1)
     return refuse(u"Select only ONE item in genre and artist list from Base.");
   const auto group = openMusicUndoGroup(parts_.journal, parts_.snapshot);
-  const base::ActiveWindow atWork(parts_.table, newMusicWindow);
+  const base::ActiveWindow atWork(parts_.table, core::WindowAtWork::NewMusic);
   clickSelected(form3_.List2);
   form3_.Text3.setText(Text(core::trim(form2_.Text3.text())) + u"  " + Text(core::trim(form2_.Text5.text())));
   parts_.newFolders.newAlbum();

@@ -16,9 +16,6 @@ namespace velmora::newmusic {
 
 namespace {
 
-constexpr int newMusicWindow = 2;  // values of aktivniprozor
-constexpr int baseWindow = 3;
-
 /// Without the separator at its end, so that it is found in the paths below it; "/" becomes nothing.
 TextView openEnded(TextView folder) {
   return folder.ends_with(core::paths::separator) ? core::dropRight(folder, 1) : folder;
@@ -43,7 +40,7 @@ void NewMusicLists::IzlistajVrste() {
   if (table.brojfajlova() == 0) return;
   {
     std::optional<base::Busy> busy;
-    if (table.aktivniprozor == baseWindow)
+    if (table.aktivniprozor == core::WindowAtWork::MusicBase)
       busy.emplace(parts_.windows, parts_.progress, u"Preparing List ...");
     std::vector<Text> rows = genresOf(table, [&](int row) {
       if (busy) parts_.progress.UpdateProgress(100.0 * row / table.brojfajlova());
@@ -226,7 +223,7 @@ void NewMusicLists::List4Click() {
     form2_.Text5.setText(TagYear(table, row));
   }
   form2_.statusLabel.setText(table.path(row));
-  if (!quiet() && table.aktivniprozor == newMusicWindow) parts_.mirror.showSong(row);
+  if (!quiet() && table.aktivniprozor == core::WindowAtWork::NewMusic) parts_.mirror.showSong(row);
 }
 
 void NewMusicLists::showGenresByTag() {

@@ -11,7 +11,7 @@ namespace velmora::newmusic {
 void NewMusicUndo::undoLastOperation() {
   const Text caption = u"Undoing ...";
   ui::Form2& form2 = parts_.windows.form2;
-  const base::ActiveWindow atWork(parts_.table, newMusicWindow);
+  const base::ActiveWindow atWork(parts_.table, core::WindowAtWork::NewMusic);
   form2.statusLabel.setText(caption);
   {
     const base::Busy busy(parts_.windows, parts_.progress, caption);
@@ -21,7 +21,7 @@ void NewMusicUndo::undoLastOperation() {
     form2.List2.Clear();
     {
       const rows::RowKeeper::Batch rows(parts_.rows);
-      parts_.replay.replayUndo("st2");
+      parts_.replay.replayUndo(journal::kind::newMusic);
     }
     parts_.settings.set(u"velicinasfiles", core::number(parts_.table.velicinasfiles));
     if (reached_)

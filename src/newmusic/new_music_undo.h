@@ -35,7 +35,9 @@ class NewMusicUndo {
   /// Enables the button by what stands on top of the journal.
   void showState() { showState(parts_.journal.lastUndoMarker()); }
   /// The same for a journal whose topmost marker is known.
-  void showState(std::string_view top) { parts_.windows.form2.undoLastOperation.setEnabled(top == "st2"); }
+  void showState(std::string_view top) {
+    parts_.windows.form2.undoLastOperation.setEnabled(top == journal::kind::newMusic);
+  }
   /// A replay came to the snapshot of both windows: it is put back when the replay is over.
   void windowState(const Text& snapshot) { reached_ = snapshot; }
 

@@ -9,20 +9,18 @@ namespace velmora::review {
 
 namespace {
 
-constexpr int duplicatesView = 2;
-constexpr int duplicatesHalted = 100;
 constexpr int linesInSight = 19;
 constexpr std::int64_t flyInMilliseconds = 460;
 
 }  // namespace
 
 bool StepWait::inDuplicates() const {
-  return parts_.table.vrsta == duplicatesView || parts_.table.vrsta == duplicatesHalted;
+  return parts_.table.vrsta == core::Review::Duplicates ||
+         parts_.table.vrsta == core::Review::DuplicatesHalted;
 }
 
 bool StepWait::inCheckFix() const {
-  const int vrsta = parts_.table.vrsta;
-  return vrsta == 1 || vrsta == 11 || vrsta == 12 || vrsta == 98;
+  return core::inCheckFix(parts_.table.vrsta);
 }
 
 bool StepWait::stepWait(int row, StopKind kind, TextView message) {
@@ -63,7 +61,7 @@ void StepWait::beginStop(int row) {
   ui::Form1& form1 = parts_.form1;
   parts_.table.puniliste = 0;
   if (inCheckFix()) {
-    parts_.journal.appendUndoRecord("fix", core::number(std::int64_t{row}), {});
+    parts_.journal.appendUndoRecord(journal::kind::checkFixStop, core::number(std::int64_t{row}), {});
     parts_.state.stopRecorded = true;
   }
   if (row - form1.List4.TopIndex() > linesInSight) form1.List4.setTopIndex(form1.List4.TopIndex() + 1);

@@ -17,13 +17,13 @@ void ArtistBook::DodajAutora(const Text& artist) {
     const int line = artist_lines::gained(form1_, table_, artist);
     if (form1_.List7.List(line) == artist_lines::oldKind) return;
   }
-  if (add(artist) && table_.aktivniprozor != 1 && onAdded) onAdded(artist);
+  if (add(artist) && table_.aktivniprozor != core::WindowAtWork::Processing && onAdded) onAdded(artist);
 }
 
 void ArtistBook::IzbaciAutora(const Text& artist) {
   if (table_.currentRow <= table_.brojfajlova() && table_.artistRows(artist).working == 0) remove(artist);
   if (viewOpen()) artist_lines::lost(form1_, table_, artist);
-  if (table_.aktivniprozor != 1 && onRemoved) onRemoved(artist);
+  if (table_.aktivniprozor != core::WindowAtWork::Processing && onRemoved) onRemoved(artist);
 }
 
 Text ArtistBook::FolderAutor(int row) const {

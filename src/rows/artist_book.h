@@ -57,7 +57,9 @@ class ArtistBook {
     int scopes = 0;
   };
 
-  bool viewOpen() const { return table_.vrsta == 3 && table_.aktivniprozor == 1; }
+  bool viewOpen() const {
+    return table_.vrsta == core::Review::ArtistList && table_.aktivniprozor == core::WindowAtWork::Processing;
+  }
   bool add(const Text& artist);
   void remove(const Text& artist);
   void openBatch();

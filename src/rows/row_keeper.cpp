@@ -13,11 +13,7 @@
 
 namespace velmora::rows {
 
-namespace {
-
-constexpr int duplicatesView = 2;
-
-}  // namespace
+namespace {}  // namespace
 
 void fillFromSnapshot(core::Track& track, const journal::RowSnapshot& snapshot) {
   track.procitan = snapshot.procitan;
@@ -72,7 +68,8 @@ void RowKeeper::listRows() {
 void RowKeeper::removeRow(int row) {
   core::TrackTable& table = parts_.table;
   if (!table.hasRow(row)) return;
-  parts_.journal.appendUndoRecord("izb", core::number(std::int64_t{row}), journal::rowSnapshot(table, row));
+  parts_.journal.appendUndoRecord(journal::kind::rowRemoved, core::number(std::int64_t{row}),
+                                  journal::rowSnapshot(table, row));
   const bool listed = row <= table.brojfajlova() && listFollows();
   const Text artist = table.track(row).pevac.text();
   if (paths_) paths_->erase(table.path(row));
@@ -99,7 +96,7 @@ void RowKeeper::restoreRow(int row, const journal::RowSnapshot& snapshot, const 
   table.track(row).crtapos = snapshot.crtapos;
   names::PevacIPesma(table, row);
   if (table.currentRow >= row) ++table.currentRow;
-  if (table.vrsta == duplicatesView && onDuplicateRestored) onDuplicateRestored(row);
+  if (table.vrsta == core::Review::Duplicates && onDuplicateRestored) onDuplicateRestored(row);
   if (working) {
     ui::ListBox& list = parts_.form1.List4;
     if (listFollows() && row - 1 <= list.ListCount()) list.insertItem(row - 1, path);

@@ -43,7 +43,7 @@ void RowMover::record(const Text& path, const Text& movedTo, int row) {
   try {
     if (row > 0) parts_.rows.removeRow(row);
     removed = row > 0;
-    parts_.journal.appendUndoRecord("mov", path, movedTo);
+    parts_.journal.appendUndoRecord(journal::kind::fileMoved, path, movedTo);
   } catch (const FileError&) {
     // What cannot be taken back must not stay. Where the file cannot go back either, its row follows it.
     const Text place = moveBack(movedTo, path);

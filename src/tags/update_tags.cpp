@@ -97,7 +97,7 @@ UpdateResult TagWriter::read(OpenSong& song, int row, Change& change, WhichTags 
 
 UpdateResult TagWriter::writeRecorded(OpenSong& song, int row, Change& change) {
   const Text before = journal::rowSnapshot(parts_.table, row);
-  journal::PendingRecord record(parts_.journal, "id3", core::number(std::int64_t{row}), before);
+  journal::PendingRecord record(parts_.journal, journal::kind::tagsWritten, core::number(std::int64_t{row}), before);
   const UpdateResult result = writeTags(song, change);
   if (saysOtherwise(song, row, before)) record.keep();
   return result;

@@ -48,7 +48,7 @@ void Progress::close() {
   if (inProcessingWindow()) {
     windows_.form1.setCaption(u"Procesing Window");
     toNormal(windows_.form1);
-  } else if (table_.aktivniprozor > 1) {
+  } else if (inBaseWindow()) {
     toNormal(windows_.form3);
   }
 }
@@ -59,7 +59,7 @@ void Progress::minimize() {
     windows_.form1.setState(WindowState::Minimised);
     windows_.form1.show();
     windows_.form1.setCaption(u"Please Wait ...");
-  } else if (table_.aktivniprozor > 1) {
+  } else if (inBaseWindow()) {
     windows_.form3.setState(WindowState::Minimised);
   }
   windows_.dialog1.hide();
@@ -69,7 +69,7 @@ void Progress::restore() {
   if (!running_ || windows_.dialog1.visible()) return;
   if (inProcessingWindow()) {
     toNormal(windows_.form1);
-  } else if (table_.aktivniprozor > 1) {
+  } else if (inBaseWindow()) {
     toNormal(windows_.form3);
   }
   windows_.dialog1.show();

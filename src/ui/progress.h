@@ -38,7 +38,10 @@ class Progress {
   void restore();
 
  private:
-  bool inProcessingWindow() const { return table_.aktivniprozor == 1; }
+  bool inProcessingWindow() const { return table_.aktivniprozor == core::WindowAtWork::Processing; }
+  bool inBaseWindow() const {
+    return !inProcessingWindow() && table_.aktivniprozor != core::WindowAtWork::NotYetKnown;
+  }
 
   core::TrackTable& table_;
   Windows& windows_;

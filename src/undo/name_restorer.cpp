@@ -8,11 +8,7 @@ namespace velmora::undo {
 
 using rows::RenameResult;
 
-namespace {
-
-constexpr int duplicatesView = 2;
-
-}  // namespace
+namespace {}  // namespace
 
 UndoOutcome NameRestorer::restore(const Text& newPath, const journal::RenamePayload& before) {
   const int row = rowOf(newPath, before);
@@ -66,7 +62,7 @@ void NameRestorer::restoreRow(int row, const journal::RenamePayload& before) {
 void NameRestorer::showOldPath(int row, const Text& shown, const Text& oldPath) {
   const core::TrackTable& table = parts_.table;
   ui::Form1& form1 = parts_.form1;
-  if (table.vrsta == duplicatesView) {
+  if (table.vrsta == core::Review::Duplicates) {
     if (onDuplicateRenamed) onDuplicateRenamed(row);
     for (int index = 0; index < form1.List6.ListCount(); ++index)
       if (form1.List6.List(index) == shown) form1.List6.setList(index, oldPath);

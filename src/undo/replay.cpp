@@ -13,21 +13,22 @@
 
 namespace velmora::undo {
 
-Replay::Inverse Replay::inverseOf(TextView kind) {
-  static constexpr std::array<std::pair<TextView, Inverse>, 12> inverses = {
-      {{u"ren", &Replay::undoRename},
-       {u"id3", &Replay::undoTags},
-       {u"del", &Replay::undoDelete},
-       {u"izb", &Replay::undoRemoval},
-       {u"mov", &Replay::undoMove},
-       {u"mkd", &Replay::undoMadeFolder},
-       {u"prs", &Replay::undoFolderMove},
-       {u"add", &Replay::undoOtherFile},
-       {u"bi1", &Replay::restoreSelection},
-       {u"biv", &Replay::restoreWindows},
-       {u"fix", &Replay::restoreFix},
-       {u"dup", &Replay::restoreDup}}};
-  const auto* found = std::ranges::find(inverses, kind, &std::pair<TextView, Inverse>::first);
+Replay::Inverse Replay::inverseOf(const journal::UndoRecord& record) {
+  namespace kind = journal::kind;
+  static constexpr std::array<std::pair<std::string_view, Inverse>, 12> inverses = {
+      {{kind::renamed, &Replay::undoRename},
+       {kind::tagsWritten, &Replay::undoTags},
+       {kind::fileDeleted, &Replay::undoDelete},
+       {kind::rowRemoved, &Replay::undoRemoval},
+       {kind::fileMoved, &Replay::undoMove},
+       {kind::folderMade, &Replay::undoMadeFolder},
+       {kind::folderMoved, &Replay::undoFolderMove},
+       {kind::otherFileDeleted, &Replay::undoOtherFile},
+       {kind::selection, &Replay::restoreSelection},
+       {kind::windows, &Replay::restoreWindows},
+       {kind::checkFixStop, &Replay::restoreFix},
+       {kind::duplicatesStop, &Replay::restoreDup}}};
+  const auto* found = std::ranges::find_if(inverses, [&](const auto& of) { return record.is(of.first); });
   return found == inverses.end() ? nullptr : found->second;
 }
 
@@ -50,7 +51,6 @@ void Replay::replayUndo(std::string_view stopKind) {
 
 /// Returns where the journal is to be cut.
 std::uint64_t Replay::takeBack(std::string_view stopKind) {
-  const Text stop = core::ascii(stopKind);
   const std::uint64_t total = parts_.journal.size();
   std::uint64_t left = total;
   const rows::ArtistBook::Batch artists(parts_.artists);
@@ -58,12 +58,12 @@ std::uint64_t Replay::takeBack(std::string_view stopKind) {
     parts_.journal.visitFromNewest([&](const Text& line, std::uint64_t offset) {
       left = offset;
       const journal::UndoRecord record = journal::parseUndoRecord(line);
-      const Inverse inverse = inverseOf(record.kind);
+      const Inverse inverse = inverseOf(record);
       UndoOutcome outcome = UndoOutcome::Done;
       if (inverse && record.data) parts_.errors.attempt([&] { outcome = (this->*inverse)(*record.data); });
       if (parts_.progress.shown())
         parts_.progress.UpdateProgress((1 - static_cast<double>(left) / static_cast<double>(total)) * 100);
-      return outcome != UndoOutcome::Abort && record.kind != stop && !parts_.table.Stop;
+      return outcome != UndoOutcome::Abort && !record.is(stopKind) && !parts_.table.Stop;
     });
   });
   return left;

@@ -62,7 +62,7 @@ class Replay {
  private:
   using Data = journal::UndoRecord::Data;
   using Inverse = UndoOutcome (Replay::*)(const Data&);
-  static Inverse inverseOf(TextView kind);
+  static Inverse inverseOf(const journal::UndoRecord& record);
 
   std::uint64_t takeBack(std::string_view stopKind);
   UndoOutcome undoRename(const Data& data);

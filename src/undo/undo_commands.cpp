@@ -5,11 +5,7 @@
 
 namespace velmora::undo {
 
-namespace {
-
-constexpr int artistListView = 3;
-
-}  // namespace
+namespace {}  // namespace
 
 void UndoCommands::undoLastOperation() {
   ui::Form1& form1 = parts_.form1;
@@ -19,9 +15,9 @@ void UndoCommands::undoLastOperation() {
     {
       const ui::QuietLists quietly(parts_.table);
       clearFileSelection();
-      if (parts_.table.vrsta == artistListView) form1.List2.Clear();
-      parts_.replay.replayUndo("st1");
-      if (parts_.table.vrsta == artistListView) clearFileSelection();
+      if (parts_.table.vrsta == core::Review::ArtistList) form1.List2.Clear();
+      parts_.replay.replayUndo(journal::kind::processing);
+      if (parts_.table.vrsta == core::Review::ArtistList) clearFileSelection();
     }
     showCurrentRow();
   });
@@ -30,13 +26,13 @@ void UndoCommands::undoLastOperation() {
 }
 
 void UndoCommands::restoreAllChanges() {
-  if (parts_.table.vrsta != 0) return;
+  if (parts_.table.vrsta != core::Review::None) return;
   if (parts_.dialogs.message(u"Are you sure you want UNDO all fix from previous search?", u"Undo",
                              platform::Buttons::OkCancel, platform::Icon::Question) != platform::Answer::Ok)
     return;
   parts_.closing.run([this] {
     parts_.progress.show(u" Undoing ... ");
-    parts_.replay.replayUndo("fst");
+    parts_.replay.replayUndo(journal::kind::checkFix);
     showCurrentRow();
   });
   showState();
@@ -52,10 +48,10 @@ void UndoCommands::showState() {
 
 void UndoCommands::showState(std::string_view top) {
   ui::RepairTools& tools = parts_.form1.repair;
-  tools.undoLastOperation.setEnabled(top == "st1");
-  tools.undo.setEnabled(top == "st1");
+  tools.undoLastOperation.setEnabled(top == journal::kind::processing);
+  tools.undo.setEnabled(top == journal::kind::processing);
   // A stop of Check+Fix lies within its pass. What other commands did since must be taken back first.
-  tools.restoreAllChanges.setEnabled(top == "fst" || top == "fix");
+  tools.restoreAllChanges.setEnabled(top == journal::kind::checkFix || top == journal::kind::checkFixStop);
 }
 
 void UndoCommands::clearFileSelection() {

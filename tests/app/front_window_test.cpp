@@ -28,14 +28,15 @@ TEST_F(FrontWindowTest, ProcessingWindowAndBackAgain) {
   program.form3().showProcessingWindow.click();
   EXPECT_EQ(program.shown(), "processing");
   EXPECT_TRUE(program.form1().enabled());
-  EXPECT_EQ(program.table().aktivniprozor, 1);
+  EXPECT_EQ(program.table().aktivniprozor, core::WindowAtWork::Processing);
   EXPECT_EQ(program.settings.get(u"sourceprozor"), u" 1");
   program.form3().onActivate();
-  EXPECT_EQ(program.table().aktivniprozor, 1) << "a late notice of a window that was left";
+  EXPECT_EQ(program.table().aktivniprozor, core::WindowAtWork::Processing)
+      << "a late notice of a window that was left";
 
   program.form1().closeRequest();
   EXPECT_EQ(program.shown(), "base");
-  EXPECT_EQ(program.table().aktivniprozor, 3);
+  EXPECT_EQ(program.table().aktivniprozor, core::WindowAtWork::MusicBase);
   EXPECT_FALSE(program.app().ended()) << "closing the Processing Window only hides it";
   EXPECT_EQ(program.table().sourceprozor, 0) << "without rows there is nothing to come back to";
   EXPECT_EQ(program.form3().showNewMusic.caption(), u"     Show New Music Window    ");
@@ -76,11 +77,11 @@ TEST_F(FrontWindowTest, NewMusicOpensAndClosesBesideTheBaseAndComesUpAgainAtTheN
 
   program.settings.set(u"plfr", u"True");
   program.windows().form2.onActivate();
-  EXPECT_EQ(program.table().aktivniprozor, 2);
+  EXPECT_EQ(program.table().aktivniprozor, core::WindowAtWork::NewMusic);
   program.windows().form2.closeRequest();
   EXPECT_EQ(program.shown(), "base");
   EXPECT_EQ(program.table().sourceprozor, 0);
-  EXPECT_EQ(program.table().aktivniprozor, 3);
+  EXPECT_EQ(program.table().aktivniprozor, core::WindowAtWork::MusicBase);
   EXPECT_TRUE(program.form3().plfr.checked());
   EXPECT_EQ(program.form3().showNewMusic.caption(), u"     Show New Music Window    ");
   program.restart();
@@ -98,23 +99,23 @@ TEST_F(FrontWindowTest, ClosingDuringAReviewAsksFirst) {
   program.startInProcessingWindow();
   int exits = 0;
   program.app().events().onExitReview = [&] { ++exits; };
-  program.table().vrsta = 2;
+  program.table().vrsta = core::Review::Duplicates;
   program.dialogs.expect(reviewQuestion, u"Processing Window", Answer::No);
   program.form1().closeRequest();
   EXPECT_TRUE(program.form1().visible());
   EXPECT_EQ(exits, 0);
-  EXPECT_EQ(program.table().vrsta, 2);
+  EXPECT_EQ(program.table().vrsta, core::Review::Duplicates);
 
   program.dialogs.expect(reviewQuestion, u"Processing Window", Answer::Yes);
   program.form1().closeRequest();
   EXPECT_FALSE(program.form1().visible());
   EXPECT_EQ(exits, 1);
-  EXPECT_EQ(program.table().vrsta, 0);
+  EXPECT_EQ(program.table().vrsta, core::Review::None);
 }
 
 TEST_F(FrontWindowTest, ReviewStaysStoredWhenTheProgramEndsInTheMiddleOfIt) {
   program.startInProcessingWindow();
-  program.table().vrsta = 2;
+  program.table().vrsta = core::Review::Duplicates;
   program.app().requestEnd();
   EXPECT_EQ(program.settings.get(u"vrsta"), u" 2");
   EXPECT_EQ(program.settings.get(u"aktivniprozor"), u" 1");

@@ -27,7 +27,7 @@ struct StartUpTest : testing::Test {
 TEST_F(StartUpTest, FirstRunComesUpInTheMusicBaseWindow) {
   program.start();
   EXPECT_EQ(program.shown(), "base");
-  EXPECT_EQ(program.table().aktivniprozor, 3);
+  EXPECT_EQ(program.table().aktivniprozor, core::WindowAtWork::MusicBase);
   EXPECT_EQ(program.table().brojfajlova(), 0);
   EXPECT_EQ(program.form3().rootLabel.text(), u"");
   EXPECT_EQ(program.form1().countLabel.text(), u" 0  new songs ");
@@ -158,7 +158,7 @@ TEST_F(StartUpTest, NothingStoredStopsTheLoad) {
   EXPECT_TRUE(program.form1().visible());
   EXPECT_EQ(program.table().ton, 0);
   EXPECT_LE(program.form1().preview.share(), 1.0);
-  EXPECT_EQ(program.table().vrsta, 0);
+  EXPECT_EQ(program.table().vrsta, core::Review::None);
 }
 
 }  // namespace

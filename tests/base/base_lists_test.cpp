@@ -108,9 +108,9 @@ TEST_F(BaseListsTest, CommandsGetNoTitles) {
     EXPECT_EQ(rows(form3.List8), Names{}) << "and no rows that belong to nothing";
   }
   folder.removeAll(u"base/R/A/own.mp3");
-  for (const int window : {2, 3}) {
+  for (const auto window : {core::WindowAtWork::NewMusic, core::WindowAtWork::MusicBase}) {
     table.aktivniprozor = window;
-    lists.driven = window == 3;
+    lists.driven = window == core::WindowAtWork::MusicBase;
     click(form3.List1, {u"R"});
     EXPECT_EQ(rows(form3.List3), (Names{without, "Al 2001"}));
   }

@@ -54,7 +54,7 @@ TEST_F(FoldersTest, PostojiDirTellsTheJournalForTheNewMusicWindowAlone) {
   EXPECT_FALSE(folders.PostojiDir(at(u"a/")));
   EXPECT_TRUE(folders.PostojiDir(at(u"a")));
   EXPECT_FALSE(journal.exists());
-  table.aktivniprozor = 2;
+  table.aktivniprozor = core::WindowAtWork::NewMusic;
   EXPECT_TRUE(folders.PostojiDir(at(u"a/")));
   EXPECT_FALSE(folders.PostojiDir(at(u"b/")));
   folders.EnsureFolder(at(u"c/"));
@@ -128,12 +128,12 @@ TEST_F(NewFoldersTest, ABaseWithoutARootAsksForOneFirst) {
   lists.readRoot();
   form3.Combo1.setText(u"New");
   dialogs.expectFolder(u"Select main folder for Your Music Base", std::nullopt);
-  for (const int window : {3, 2}) {
+  for (const auto window : {core::WindowAtWork::MusicBase, core::WindowAtWork::NewMusic}) {
     table.aktivniprozor = window;
     newFolders.newGenre();
   }
   EXPECT_FALSE(disk.folderExists(u"New"));
-  table.aktivniprozor = 3;
+  table.aktivniprozor = core::WindowAtWork::MusicBase;
   dialogs.expectFolder(u"Select main folder for Your Music Base", folder.path(u"base"));
   typed(u"Rock");
   newFolders.newGenre();

@@ -17,7 +17,7 @@ struct BaseWorld : HouseWorld {
   base::NewFolders& newFolders = room.newFolders;
 
   BaseWorld() {
-    table.aktivniprozor = 3;
+    table.aktivniprozor = core::WindowAtWork::MusicBase;
     folder.mkdir(u"base");
     settings.set(u"DirZaBazu", folder.path(u"base"));
     app::wireForm3(house);
@@ -48,7 +48,7 @@ struct BaseWorld : HouseWorld {
     EXPECT_TRUE(form1.enabled() && windows.form2.enabled() && form3.enabled());
     EXPECT_FALSE(progress.shown());
     EXPECT_EQ(table.puniliste, 0);
-    EXPECT_EQ(table.aktivniprozor, 3);
+    EXPECT_EQ(table.aktivniprozor, core::WindowAtWork::MusicBase);
   }
   /// A path below the base.
   Text at(TextView name) const { return folder.path(u"base/" + Text(name)); }

@@ -114,7 +114,7 @@ TEST_F(NameBatches, RenameOfSeveralSetsTheBlanksAroundTheirDashes) {
 
 TEST_F(NameBatches, RenameFilesPutsOneArtistOnAllSelectedSongs) {
   add({{u"one - Harbour"}, {u"two - Lights"}});
-  program.table().vrsta = 3;
+  program.table().vrsta = core::Review::ArtistList;
   for (const TextView name : {u"one - Harbour", u"two - Lights"})
     form1().List2.AddItem(program.table().track(rowOf(name)).pesma.text(), rowOf(name));
   form1().List2.select({0, 1}, 1);

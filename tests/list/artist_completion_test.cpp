@@ -44,9 +44,9 @@ TEST_F(ArtistCompletionTest, ArtistsOfTheBaseFollowOnceThereAreAny) {
 }
 
 TEST_F(ArtistCompletionTest, NothingIsOfferedWithoutAListInTheArtistCheckOrDuringACommand) {
-  table.vrsta = 11;
+  table.vrsta = core::Review::WhoIsArtist;
   EXPECT_EQ(offered(u"ar"), Texts());
-  table.vrsta = 0;
+  table.vrsta = core::Review::None;
   table.puniliste = 1;
   EXPECT_EQ(offered(u"arv"), Texts());
   table.puniliste = 0;
@@ -64,7 +64,7 @@ TEST_F(ArtistCompletionTest, TheArtistThatIsChosenComesBeforeTheTitle) {
   EXPECT_EQ(form1.Text1.text(), u"Arvola - two");
   EXPECT_FALSE(form1.List3.visible());
 
-  table.vrsta = 3;
+  table.vrsta = core::Review::ArtistList;
   form1.Text8.type(u"oth", 3);
   completion.boxChanged();
   ASSERT_EQ(rowsOf(form1.List3), Texts{u"Other "});

@@ -151,7 +151,7 @@ TEST_F(DeleteFilesTest, OtherFilesGoWithoutRecords) {
 
 TEST_F(DeleteFilesTest, SongsOfAnArtistGoAndTheNextLineIsSelected) {
   add({{u"Arvola - one"}, {u"Arvola - two"}, {u"Kora - rain"}});
-  program.table().vrsta = 3;
+  program.table().vrsta = core::Review::ArtistList;
   form1().List1.AddItem(u"Arvola ");
   form1().List1.select({0}, 0);
   ASSERT_EQ(form1().List2.ListCount(), 2);

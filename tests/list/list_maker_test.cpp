@@ -275,7 +275,7 @@ TEST_F(ListMakerTest, AddRunsArtistListWhenThatIsTheReview) {
   int runs = 0;
   maker.onArtistList = [&] { ++runs; };
   for (const TextView name : {u"a", u"b", u"c"}) song(u"music/" + Text(name) + u" - x.mp3");
-  table.vrsta = 3;
+  table.vrsta = core::Review::ArtistList;
   add(u"music");
   EXPECT_EQ(runs, 1);
   EXPECT_EQ(table.autori.size(), 1u);

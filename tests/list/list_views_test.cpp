@@ -72,7 +72,8 @@ TEST_F(ListViewsTest, AClickOnAFileShowsItAndCompletesNothing) {
 
 TEST_F(ListViewsTest, InAReviewAClickFillsTheNameBoxAlone) {
   songs({u"Arvola - a", u"b"});
-  for (const int review : {1, 2, 11, 12}) {
+  for (const core::Review review : {core::Review::CheckFix, core::Review::Duplicates,
+                                    core::Review::WhoIsArtist, core::Review::ArtistExists}) {
     table.vrsta = review;
     form1.Text1.setText({});
     form1.List4.select({0}, 0);
@@ -107,7 +108,7 @@ TEST_F(ListViewsTest, AFolderThatHoldsAnAddedOneScrollsToItsFirstFile) {
 TEST_F(ListViewsTest, AClickOnArtistsListsTheirSongs) {
   songs({u"Arvola - a", u"Other - b", u"Arvola - c", u"nameless"});
   table.stariautori = {u"", u"Other"};
-  table.vrsta = 3;
+  table.vrsta = core::Review::ArtistList;
   for (const Text& artist : table.autori) form1.List1.AddItem(artist);
   ASSERT_EQ(rowsOf(form1.List1), (Texts{u"", u"Arvola ", u"Other "}));
   form1.List1.select({1, 2}, 2);

@@ -16,7 +16,7 @@ struct ListWorld : HouseWorld {
   list::ArtistCompletion& completion = house.completion;
 
   ListWorld() {
-    table.aktivniprozor = 1;
+    table.aktivniprozor = core::WindowAtWork::Processing;
     form1.List4.onClick = [this] { views.List4Click(); };
     form1.List1.onClick = [this] { views.List1Click(); };
     form1.List3.onClick = [this] { completion.List3Click(); };

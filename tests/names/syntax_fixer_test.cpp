@@ -67,7 +67,7 @@ TEST_F(SyntaxFixerTest, TextBoxesOfThePartsAreFixedInTheArtistListViewOnly) {
   fixer_.fixTextBox();
   EXPECT_EQ(form1_.Text1.text(), u"A - B");
   EXPECT_EQ(form1_.Text8.text(), u"the arvolas");
-  table_.vrsta = 3;
+  table_.vrsta = core::Review::ArtistList;
   fixer_.fixTextBox();
   EXPECT_EQ(form1_.Text8.text(), u"The Arvolas");
   EXPECT_EQ(form1_.Text5.text(), u"Harbour lights");

@@ -27,7 +27,7 @@ struct MoveCommandsTest : test::NewMusicWorld {
   }
   void expectTidy() const {
     EXPECT_EQ(table.puniliste, 0);
-    EXPECT_EQ(table.aktivniprozor, 2);
+    EXPECT_EQ(table.aktivniprozor, core::WindowAtWork::NewMusic);
     EXPECT_TRUE(form1.enabled() && form2.enabled() && form3.enabled());
     EXPECT_FALSE(windows.dialog1.visible());
     ASSERT_EQ(form1.List4.ListCount(), table.brojfajlova());
@@ -273,7 +273,7 @@ TEST_F(MoveCommandsTest, NamesBecomeFoldersThatUndoTakesAway) {
   room.names.nameAlbum();
   EXPECT_TRUE(there(u"New  Genre/Gamma/Album  1970"));
   EXPECT_EQ(kinds(), (Names{"st2", "biv", "mkd", "st2", "biv", "mkd", "st2", "biv", "mkd"}));
-  EXPECT_EQ(table.aktivniprozor, 2);
+  EXPECT_EQ(table.aktivniprozor, core::WindowAtWork::NewMusic);
   undo.undoLastOperation();
   EXPECT_FALSE(there(u"New  Genre/Gamma/Album  1970"));
   EXPECT_EQ(chosen(form3.List2), Names{"Gamma"});

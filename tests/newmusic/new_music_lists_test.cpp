@@ -114,7 +114,7 @@ TEST(TagValues, TheSecondTagWinsAndBlanksCountAsNothing) {
 
 TEST_F(NewMusicListsTest, TheFirstListingComesBehindAProgressWindow) {
   song(u"A - 1", {u"Rock"});
-  table.aktivniprozor = 3;
+  table.aktivniprozor = core::WindowAtWork::MusicBase;
   Text said;
   desktop.then([&] {
     said = windows.dialog1.text.text();

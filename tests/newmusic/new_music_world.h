@@ -26,7 +26,7 @@ struct NewMusicWorld : BaseWorld {
   int closed = 0;  ///< how often the New Music Window was asked to close
 
   NewMusicWorld() {
-    table.aktivniprozor = 2;
+    table.aktivniprozor = core::WindowAtWork::NewMusic;
     app::wireForm2(house);
     journal.onMarker = [this](std::string_view) { undo.showState(); };
     summary.onAllMoved = [this] { ++closed; };

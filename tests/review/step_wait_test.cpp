@@ -13,7 +13,7 @@ struct StepWaitTest : test::HouseWorld {
     }
     table.setBrojfajlova(3);
     table.resizeColumns();
-    table.vrsta = 1;
+    table.vrsta = core::Review::CheckFix;
     settings.set(u"vrsta", u" 1");
   }
   bool stop(int row) { return house.reviews.stepWait.stepWait(row, StopKind::Dalje, u"What now?"); }

@@ -20,7 +20,7 @@ struct ArtistBookTest : test::HouseWorld {
       in.setParts(in.rows(), artist, u"");
     }
     in.setBrojfajlova(working);
-    in.aktivniprozor = 1;
+    in.aktivniprozor = core::WindowAtWork::Processing;
   }
   void give(int row, const Text& artist) { give(table, book, row, artist); }
   static void give(core::TrackTable& in, ArtistBook& by, int row, const Text& artist) {
@@ -32,7 +32,7 @@ struct ArtistBookTest : test::HouseWorld {
   }
   Texts saved() { return data.readList(u"autori.txt"); }
   void openView() {
-    table.vrsta = 3;
+    table.vrsta = core::Review::ArtistList;
     for (int row = 1; row <= table.rows(); ++row) book.DodajAutora(table.track(row).pevac.text());
   }
   /// The view as "artist:kind", with "*" behind the kinds that are marked.
@@ -112,8 +112,8 @@ TEST_F(ArtistBookTest, TheViewShowsWhereAnArtistHasRows) {
 
 TEST_F(ArtistBookTest, OtherWindowsHearOfArtistsWhileTheyAreInFront) {
   rows({u"A", u"B"}, 2);
-  table.vrsta = 3;
-  table.aktivniprozor = 3;
+  table.vrsta = core::Review::ArtistList;
+  table.aktivniprozor = core::WindowAtWork::MusicBase;
   table.autori = {u"A", u"B"};
   Texts heard;
   book.onAdded = [&](const Text& artist) { heard.push_back(u"+" + artist); };

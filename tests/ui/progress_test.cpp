@@ -16,7 +16,7 @@ struct ProgressTest : testing::Test {
   Progress progress{table, windows, desktop};
 
   void SetUp() override {
-    table.aktivniprozor = 1;
+    table.aktivniprozor = core::WindowAtWork::Processing;
     windows.form1.show();
   }
 };
@@ -91,7 +91,7 @@ TEST_F(ProgressTest, MinimizeTakesTheWindowInFrontAlongAndRestoreBringsBothBack)
   EXPECT_EQ(windows.form1.state(), WindowState::Normal);
   EXPECT_EQ(windows.form1.caption(), u"Procesing Window");
 
-  table.aktivniprozor = 3;
+  table.aktivniprozor = core::WindowAtWork::MusicBase;
   progress.show(u"of the Music Base");
   progress.minimize();
   EXPECT_EQ(windows.form3.state(), WindowState::Minimised);
