@@ -41,24 +41,25 @@ void wireForm1(House& house) {
   form1.onActivate = [&house] { house.progress.restore(); };
   form1.onDeactivate = [&house] { house.processing.storePlace(); };
 
-  form1.newList.onClick = command(house, form1, [&house] {
+  form1.newList.onClick = command(house, form1, "newList", [&house] {
     house.listMaker.newList();
     showUndoState(house);
   });
-  form1.add.onClick = command(house, form1, [&house] { house.listMaker.add(); });
-  form1.addFolder.onClick = command(house, form1, [&house] { house.listMaker.addFolder(); });
-  form1.muzickiFajlovi.onClick = command(house, form1, [&house] { house.listViews.showMusicFiles(); });
-  form1.ostali.onClick = command(house, form1, [&house] { house.listViews.showOtherFiles(); });
-  form1.otherFiles.onClick = command(house, form1, [&house] {
+  form1.add.onClick = command(house, form1, "add", [&house] { house.listMaker.add(); });
+  form1.addFolder.onClick = command(house, form1, "addFolder", [&house] { house.listMaker.addFolder(); });
+  form1.muzickiFajlovi.onClick =
+      command(house, form1, "muzickiFajlovi", [&house] { house.listViews.showMusicFiles(); });
+  form1.ostali.onClick = command(house, form1, "ostali", [&house] { house.listViews.showOtherFiles(); });
+  form1.otherFiles.onClick = command(house, form1, "otherFiles", [&house] {
     house.otherFiles.open();
     house.modal.run(house.windows.form8);
   });
-  form1.assort.onClick = command(house, form1, [&house] { house.front.assort(); });
-  form1.options.onClick = opens(house, form1, house.windows.form5);
-  form1.fixOptions.onClick = opens(house, form1, house.windows.dialog2);
-  form1.checkFixOptions.onClick = opens(house, form1, house.windows.form6);
-  form1.duplicateOptions.onClick = opens(house, form1, house.windows.form7);
-  form1.about.onClick = opens(house, form1, house.windows.frmAbout);
+  form1.assort.onClick = command(house, form1, "assort", [&house] { house.front.assort(); });
+  form1.options.onClick = opens(house, form1, "options", house.windows.form5);
+  form1.fixOptions.onClick = opens(house, form1, "fixOptions", house.windows.dialog2);
+  form1.checkFixOptions.onClick = opens(house, form1, "checkFixOptions", house.windows.form6);
+  form1.duplicateOptions.onClick = opens(house, form1, "duplicateOptions", house.windows.form7);
+  form1.about.onClick = opens(house, form1, "about", house.windows.frmAbout);
   wireLists(house);
 
   // Without a progress window there is no Stop button, and the mark is one of a command that is over.
@@ -68,7 +69,7 @@ void wireForm1(House& house) {
     house.newMusic.forget();
   };
   form1.folderTree.onDropFolders = [&house, &form1](const std::vector<Text>& folders) {
-    command(house, form1, [&] {
+    command(house, form1, "dropFolders", [&] {
       for (const Text& folder : folders) {
         form1.folderTree.setPath(folder);
         house.listMaker.add();

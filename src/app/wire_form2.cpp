@@ -46,15 +46,15 @@ void wireMoves(House& house) {
   ui::Form2& form2 = house.windows.form2;
   ui::Form3& form3 = house.windows.form3;
   BaseRoom& room = house.baseRoom;
-  form2.moveGenre.onClick = command(house, form2, [&room] { room.moves.moveGenre(); });
-  form2.moveArtist.onClick = command(house, form2, [&room] { room.moves.moveArtist(); });
-  form2.moveAlbum.onClick = command(house, form2, [&room] { room.moves.moveAlbum(); });
-  form2.moveTitle.onClick = command(house, form2, [&room] { room.moves.moveTitle(); });
-  form2.nameGenre.onClick = command(house, form2, [&room] { room.names.nameGenre(); });
-  form2.nameArtist.onClick = command(house, form2, [&room] { room.names.nameArtist(); });
-  form2.nameAlbum.onClick = command(house, form2, [&room] { room.names.nameAlbum(); });
-  form2.scanTags.onClick = command(house, form2, [&room] { room.tagScan.scan(); });
-  form2.undoLastOperation.onClick = command(house, form2, [&house, &room] {
+  form2.moveGenre.onClick = command(house, form2, "moveGenre", [&room] { room.moves.moveGenre(); });
+  form2.moveArtist.onClick = command(house, form2, "moveArtist", [&room] { room.moves.moveArtist(); });
+  form2.moveAlbum.onClick = command(house, form2, "moveAlbum", [&room] { room.moves.moveAlbum(); });
+  form2.moveTitle.onClick = command(house, form2, "moveTitle", [&room] { room.moves.moveTitle(); });
+  form2.nameGenre.onClick = command(house, form2, "nameGenre", [&room] { room.names.nameGenre(); });
+  form2.nameArtist.onClick = command(house, form2, "nameArtist", [&room] { room.names.nameArtist(); });
+  form2.nameAlbum.onClick = command(house, form2, "nameAlbum", [&room] { room.names.nameAlbum(); });
+  form2.scanTags.onClick = command(house, form2, "scanTags", [&room] { room.tagScan.scan(); });
+  form2.undoLastOperation.onClick = command(house, form2, "undoLastOperation", [&house, &room] {
     room.undo.undoLastOperation();
     showUndoState(house);
   });
@@ -88,7 +88,7 @@ void wireMoves(House& house) {
 
 void wireForm2(House& house) {
   ui::Form2& form2 = house.windows.form2;
-  form2.onCloseRequest = command(house, form2, [&house] { house.newMusic.close(); });
+  form2.onCloseRequest = command(house, form2, "close", [&house] { house.newMusic.close(); });
   form2.close.onClick = [&form2] { form2.closeRequest(); };
   form2.onActivate = [&house] {
     house.front.newMusicActivated();

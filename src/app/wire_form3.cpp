@@ -13,14 +13,16 @@ namespace {
 void wireMenus(House& house) {
   ui::Form3& form3 = house.windows.form3;
   form3.exit.onClick = [&house] { requestEnd(house); };
-  form3.showProcessingWindow.onClick = command(house, form3, [&house] { house.front.showProcessing(); });
-  form3.showNewMusic.onClick = command(house, form3, [&house] { house.newMusic.toggle(); });
-  form3.selectMainFolder.onClick = command(house, form3, [&house] { house.base.selectMainFolder(); });
+  form3.showProcessingWindow.onClick =
+      command(house, form3, "showProcessingWindow", [&house] { house.front.showProcessing(); });
+  form3.showNewMusic.onClick = command(house, form3, "showNewMusic", [&house] { house.newMusic.toggle(); });
+  form3.selectMainFolder.onClick =
+      command(house, form3, "selectMainFolder", [&house] { house.base.selectMainFolder(); });
   house.base.onRootChosen = [&house] {
     if (house.windows.form2.visible()) house.baseRoom.summary.moze();
   };
   form3.showMenuAndButtons.onClick = [&house] { house.base.toggleMenuAndButtons(); };
-  form3.about.onClick = opens(house, form3, house.windows.frmAbout);
+  form3.about.onClick = opens(house, form3, "about", house.windows.frmAbout);
   form3.showTips.onClick = [&house] {
     ui::storeShowTipsAtStartup(house.settings, house.windows.form3.showTips.checked());
   };
@@ -61,8 +63,8 @@ void wireColumns(House& house) {
 
 /// A command of the Music Base Window itself. The notice that it came to the front may be late, and the
 /// folders that a command of its own makes must not stand in the journal.
-std::function<void()> baseCommand(House& house, std::function<void()> run) {
-  return command(house, house.windows.form3, [&house, run = std::move(run)] {
+std::function<void()> baseCommand(House& house, std::string_view name, std::function<void()> run) {
+  return command(house, house.windows.form3, name, [&house, run = std::move(run)] {
     house.front.baseActivated();
     house.front.settle();
     run();
@@ -72,20 +74,24 @@ std::function<void()> baseCommand(House& house, std::function<void()> run) {
 void wireFolderCommands(House& house) {
   ui::Form3& form3 = house.windows.form3;
   BaseRoom& room = house.baseRoom;
-  form3.genres.newFolder.onClick = baseCommand(house, [&room] { room.newFolders.newGenre(); });
-  form3.artists.newFolder.onClick = baseCommand(house, [&room] { room.newFolders.newArtist(); });
-  form3.albums.newFolder.onClick = baseCommand(house, [&room] { room.newFolders.newAlbum(); });
-  const auto folders = [&house, &room](ui::Button& button, void (base::FolderCommands::*run)()) {
-    button.onClick = baseCommand(house, [&room, run] { (room.folderCommands.*run)(); });
+  form3.genres.newFolder.onClick =
+      baseCommand(house, "genres.newFolder", [&room] { room.newFolders.newGenre(); });
+  form3.artists.newFolder.onClick =
+      baseCommand(house, "artists.newFolder", [&room] { room.newFolders.newArtist(); });
+  form3.albums.newFolder.onClick =
+      baseCommand(house, "albums.newFolder", [&room] { room.newFolders.newAlbum(); });
+  const auto folders = [&house, &room](ui::Button& button, std::string_view name,
+                                       void (base::FolderCommands::*run)()) {
+    button.onClick = baseCommand(house, name, [&room, run] { (room.folderCommands.*run)(); });
   };
-  folders(form3.genres.ren, &base::FolderCommands::renGenre);
-  folders(form3.artists.ren, &base::FolderCommands::renArtist);
-  folders(form3.albums.ren, &base::FolderCommands::renAlbum);
-  folders(form3.genres.del, &base::FolderCommands::delGenre);
-  folders(form3.artists.del, &base::FolderCommands::delArtist);
-  folders(form3.albums.del, &base::FolderCommands::delAlbum);
-  form3.titles.ren.onClick = baseCommand(house, [&room] { room.fileCommands.ren(); });
-  form3.titles.del.onClick = baseCommand(house, [&room] { room.fileCommands.del(); });
+  folders(form3.genres.ren, "genres.ren", &base::FolderCommands::renGenre);
+  folders(form3.artists.ren, "artists.ren", &base::FolderCommands::renArtist);
+  folders(form3.albums.ren, "albums.ren", &base::FolderCommands::renAlbum);
+  folders(form3.genres.del, "genres.del", &base::FolderCommands::delGenre);
+  folders(form3.artists.del, "artists.del", &base::FolderCommands::delArtist);
+  folders(form3.albums.del, "albums.del", &base::FolderCommands::delAlbum);
+  form3.titles.ren.onClick = baseCommand(house, "titles.ren", [&room] { room.fileCommands.ren(); });
+  form3.titles.del.onClick = baseCommand(house, "titles.del", [&room] { room.fileCommands.del(); });
   room.newFolders.onSelectRoot = [&house] { house.base.selectMainFolder(); };
 }
 
@@ -93,7 +99,7 @@ void wireYears(House& house) {
   ui::Form3& form3 = house.windows.form3;
   base::YearFilter& years = house.baseRoom.years;
   form3.selectYears.onClick = [&years] { years.open(); };
-  form3.years.ok.onClick = command(house, form3, [&years] { years.ok(); });
+  form3.years.ok.onClick = command(house, form3, "years.ok", [&years] { years.ok(); });
   form3.years.cancel.onClick = [&years] { years.cancel(); };
   years.onApplied = [&house] {
     const base::Busy busy(house.windows, house.progress, Text(base::YearFilter::busyText));

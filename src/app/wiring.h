@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 
 namespace velmora::ui {
 class Window;
@@ -26,8 +27,10 @@ void wireOptions(House& house);
 void wireSmallWindows(House& house);
 
 /// A handler that runs `run` as a command: not while its window is disabled, and not inside another command.
-std::function<void()> command(House& house, ui::Window& window, std::function<void()> run);
+/// `name` is what the trace calls it, a literal.
+std::function<void()> command(House& house, ui::Window& window, std::string_view name,
+                              std::function<void()> run);
 /// A handler that opens `opened` over `parent` and returns when it is closed.
-std::function<void()> opens(House& house, ui::Window& parent, ui::Window& opened);
+std::function<void()> opens(House& house, ui::Window& parent, std::string_view name, ui::Window& opened);
 
 }  // namespace velmora::app

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::app {
 
@@ -28,7 +29,8 @@ class Work::Level {
 void Work::perform(const std::function<void()>& command) {
   try {
     command();
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // The command ends here, its work done as far as it got.
   }
 }

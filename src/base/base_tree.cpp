@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "names/grammar.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::base {
 
@@ -51,7 +52,8 @@ Contents contentsOf(platform::Files& files, const Text& folder) {
       else if (entry.kind == platform::EntryKind::Folder && entry.name != withoutFolder)
         contents.folders.push_back(std::move(entry.name));
     }
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // A folder that has gone meanwhile has nothing to show.
   }
   return contents;

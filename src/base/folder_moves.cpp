@@ -7,6 +7,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::base {
 
@@ -89,7 +90,8 @@ void FolderMoves::giveBack() {
     try {
       parts_.folders.RemoveEmptyTree(holding.folder);
       if (parts_.files.folderExists(holding.folder)) parts_.files.moveFolder(holding.folder, holding.origin);
-    } catch (const FileError&) {
+    } catch (const FileError& error) {
+      platform::caughtSilently(error);
       // The files lie in the holding folder, which the lists show as any other.
     }
   }

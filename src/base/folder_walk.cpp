@@ -5,6 +5,7 @@
 #include "base/base_tree.h"
 #include "core/paths.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::base {
 
@@ -20,7 +21,8 @@ struct Dump {
     FolderWalk::Level level;
     try {
       level = walk.enter(folder);
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       return;
     }
     const bool taken = years.allYears() || years.passes(core::paths::withoutSeparator(folder));

@@ -5,6 +5,7 @@
 
 #include "core/records.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::base {
 
@@ -51,7 +52,8 @@ bool LastPosition::read() const {
     bytes_ = bytes;
     looked_ = looks_ > 0;
     return true;
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     records_.clear();
     bytes_.reset();
     return !files_.fileExists(path_);
@@ -65,7 +67,8 @@ void LastPosition::write() {
     files_.writeAll(path_, content);
     bytes_ = content.size();
     looked_ = looks_ > 0;
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     bytes_.reset();
     looked_ = false;
   }

@@ -4,6 +4,7 @@
 
 #include "base/base_tree.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "ui/list_scroll.h"
 #include "ui/quiet_lists.h"
 
@@ -48,7 +49,8 @@ bool NewFolders::made(const Text& parent, const Text& name) {
   if (parent.empty() || name.empty()) return false;
   try {
     return !parts_.folders.PostojiDir(parent + name);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return false;
   }
 }

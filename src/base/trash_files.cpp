@@ -5,6 +5,7 @@
 #include "base/folder_walk.h"
 #include "core/paths.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::base {
 
@@ -32,7 +33,8 @@ void TrashFiles::Delete(const std::vector<Text>& paths) {
     if (parts_.player.holds(path)) parts_.player.close();
     try {
       parts_.trash.send(path);
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       // It stays, and its folder with it.
     }
     parts_.progress.UpdateProgress(100.0 * static_cast<double>(i + 1) / static_cast<double>(paths.size()));

@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "journal/undo_group.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "ui/view_choice.h"
 
 namespace velmora::batch {
@@ -40,7 +41,8 @@ void BatchFrame::runGroup(const Text& caption, const std::vector<int>& rows,
     try {
       const rows::ArtistBook::Batch artists(parts_.artists);
       walk(rows, treat);
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       // The walk ends here, and what was done before stays done.
     }
     group.end();

@@ -9,6 +9,7 @@
 #include "journal/undo_record.h"
 #include "names/grammar.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::batch {
 
@@ -152,7 +153,8 @@ tags::UpdateResult Renamer::followWithTags(int row, const OldName& old) {
     // What another program wrote since the row was read does not follow.
     parts_.tagCache.readAnew(song.bytesToRead(), row);
     which = tagsOf(row, old);
-  } catch (const FileError&) {
+  } catch (const FileError& error) {
+    platform::caughtSilently(error);
     // The write asks about it.
   }
   try {

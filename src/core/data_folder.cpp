@@ -9,6 +9,7 @@
 #include "core/records.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::core {
 
@@ -105,7 +106,8 @@ Text DataFolder::path(TextView fileName) const {
     for (const platform::FolderEntry& entry : files_.list(folder_).entries)
       if (entry.kind == platform::EntryKind::File && equalNoCase(entry.name, fileName))
         return paths::join(folder_, entry.name);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // A folder that cannot be listed may still let its files be read.
   }
   return exact;
@@ -146,7 +148,8 @@ void DataFolder::store(TextView fileName, BytesView content) {
       files_.makeFolder(folder_);
       files_.writeAll(path(fileName), content);
       return;
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       // A file half old and half new would give rows the words of others: rather none.
     }
   }
@@ -157,7 +160,8 @@ void DataFolder::remove(TextView fileName) {
   try {
     const Text file = path(fileName);
     if (files_.fileExists(file)) files_.remove(file);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // Nothing more can be done about it.
   }
 }
@@ -165,7 +169,8 @@ void DataFolder::remove(TextView fileName) {
 std::vector<Element> DataFolder::readColumn(TextView fileName) const {
   try {
     return records::readAll(files_.readAll(path(fileName)));
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return {};
   }
 }
@@ -173,7 +178,8 @@ std::vector<Element> DataFolder::readColumn(TextView fileName) const {
 std::vector<Text> DataFolder::readList(TextView fileName) const {
   try {
     return records::readTexts(files_.readAll(path(fileName)));
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return {};
   }
 }
@@ -241,7 +247,8 @@ void DataFolder::mark() {
 void DataFolder::writeMark(int tail) {
   try {
     files_.writeAll(changing_, toBytes(number(std::int64_t{tail})));
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // Without the mark a kill may leave a row read that is not, or a count of other rows; nothing worse.
   }
 }
@@ -249,7 +256,8 @@ void DataFolder::writeMark(int tail) {
 void DataFolder::unmark() {
   try {
     if (namesTold_ && tagsTold_ && files_.fileExists(changing_)) files_.remove(changing_);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // The next start reads tags that it could have taken from the columns.
   }
 }
@@ -259,7 +267,8 @@ std::optional<int> DataFolder::markedTail() const {
     const Text tail = fromBytes(files_.readAll(changing_));
     // A kill before the first byte came before any change.
     if (!tail.empty()) return std::max(intValue(tail), 0);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // No mark, as after every change that has ended.
   }
   return std::nullopt;

@@ -7,6 +7,7 @@
 #include "core/records.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::core {
 
@@ -27,7 +28,8 @@ Text Settings::get(TextView key) const {
       // A line that ends before the gap does has an empty value.
       if (line.starts_with(wanted)) value = line.substr(std::min(line.size(), wanted.size() + gap.size()));
     }
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // A missing file is the first start; an unreadable one counts as missing.
   }
   return value;
@@ -52,7 +54,8 @@ void Settings::set(TextView key, TextView value) {
     }
     if (!found) records::writeText(content, line);
     files_.writeAll(path_, content);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // The option lasts until the program ends; nothing else is lost.
   }
 }

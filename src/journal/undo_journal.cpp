@@ -9,6 +9,7 @@
 #include "core/utf8.h"
 #include "journal/journal_lines.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::journal {
 
@@ -82,7 +83,8 @@ void UndoJournal::withdraw(const Place& place) {
     if (openEnd() != place.end) return;
     file_->cutTo(place.begin);
     end_ = place.begin;
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // The record stays, and undo finds nothing to take back.
   }
 }
@@ -99,7 +101,8 @@ void UndoJournal::closeGroup() noexcept {
   files_.beforeRemoval(nullptr);
   try {
     if (dirty_ && file_) file_->flush();
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // All changes are made, and their records stand as far as the system is concerned.
   }
   dirty_ = false;
@@ -208,7 +211,8 @@ void UndoJournal::remove() {
   if (!exists()) return;
   try {
     files_.remove(path_);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // A file that stays is no reason to stop: its rows are gone from the table.
   }
 }

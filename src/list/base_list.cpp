@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::list {
 
@@ -13,7 +14,8 @@ void BaseList::refresh(const Text& root, TextView caption) {
   scan.onMusic = [&found](Text path) { found.push_back(std::move(path)); };
   try {
     scan.Pretrazi(root);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return;
   }
   if (parts_.table.Stop) return;

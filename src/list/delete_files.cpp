@@ -9,6 +9,7 @@
 #include "journal/undo_record.h"
 #include "list/other_rows.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "ui/view_choice.h"
 
 namespace velmora::list {
@@ -102,7 +103,8 @@ void DeleteFiles::deleteRows(std::vector<int> rows, bool withSelection) {
           parts_.progress.UpdateProgress(100.0 * static_cast<double>(i + 1) /
                                          static_cast<double>(rows.size()));
       }
-    } catch (const FileError&) {
+    } catch (const FileError& error) {
+      platform::caughtSilently(error);
       // Nothing more goes when it cannot be journalled.
     }
     parts_.settings.set(u"velicinasfiles", core::number(parts_.table.velicinasfiles));
@@ -118,7 +120,8 @@ void DeleteFiles::deleteRow(int row) {
   std::uint64_t size = 0;
   try {
     if (parts_.files.fileExists(path)) size = parts_.files.size(path);
-  } catch (const FileError&) {
+  } catch (const FileError& error) {
+    platform::caughtSilently(error);
     return;  // without its size it would not be known again in the trash
   }
   Text trashPath;
@@ -144,7 +147,8 @@ bool DeleteFiles::sendToTrash(const Text& path, Text& trashPath) {
   try {
     trashPath = parts_.trash.send(path);
     return true;
-  } catch (const FileError&) {
+  } catch (const FileError& error) {
+    platform::caughtSilently(error);
     // The file keeps its row.
     return false;
   }

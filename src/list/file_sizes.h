@@ -2,6 +2,7 @@
 
 #include "platform/file_error.h"
 #include "platform/files.h"
+#include "platform/trace.h"
 
 namespace velmora::list {
 
@@ -9,7 +10,8 @@ namespace velmora::list {
 inline double bytesOf(platform::Files& files, const Text& path) {
   try {
     return static_cast<double>(files.size(path));
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return 0;
   }
 }

@@ -7,6 +7,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::list {
 
@@ -39,7 +40,8 @@ void FolderScan::walk(const Text& folder) {
   for (const Text& subfolder : takeFiles(folder)) {
     try {
       walk(subfolder);
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       // A folder that cannot be read leaves the rest of the tree to be found.
     }
   }
@@ -112,7 +114,8 @@ std::vector<Text> artistFolders(const FolderScan::Parts& parts, const Text& base
           names.push_back(std::move(entry.name));
         parts.desktop.pumpEvents();
       }
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       // The other genres are found all the same.
     }
     return names;

@@ -13,6 +13,7 @@
 #include "list/base_list.h"
 #include "list/file_sizes.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "ui/display_limit.h"
 #include "ui/view_choice.h"
 
@@ -40,7 +41,8 @@ void ListMaker::newList() {
     list->Clear();
   try {
     parts_.journal.appendUndoMarker(journal::kind::newList);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // The history ends below whether or not it could be marked.
   }
   eraseTable();
@@ -184,7 +186,8 @@ bool ListMaker::findFiles(const Text& folder, Found& found) {
   scan.onOther = [&table](Text path) { table.niznomusic.push_back(std::move(path)); };
   try {
     scan.Pretrazi(folder);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     leaveFolder();
     return found.readable = false;
   }

@@ -7,6 +7,7 @@
 #include "newmusic/new_music_lists.h"
 #include "newmusic/tag_values.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::newmusic {
 
@@ -105,7 +106,8 @@ void MoveCollect::makeFolder(const Text& folder) {
     if (folder.starts_with(missing)) return;
   try {
     folders_.PostojiDir(folder);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     missing_.push_back(folder);
   }
 }

@@ -13,6 +13,7 @@
 #include "newmusic/move_names.h"
 #include "newmusic/music_undo_group.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "ui/quiet_lists.h"
 
 namespace velmora::newmusic {
@@ -124,7 +125,8 @@ void MoveCommands::apply(const std::vector<PlannedMoves>& plan, journal::UndoJou
     const rows::ArtistBook::Batch artists(parts_.artists);
     const rows::RowKeeper::Batch rows(parts_.rows);
     moveAll(plan, bytes);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // Nothing more goes when it cannot be journalled.
   }
   group.end();

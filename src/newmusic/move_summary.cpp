@@ -6,6 +6,7 @@
 #include "core/paths.h"
 #include "list/file_sizes.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::newmusic {
 
@@ -59,7 +60,8 @@ double MoveSummary::NeedBytes() {
 double MoveSummary::FreeBytes() const {
   try {
     return static_cast<double>(parts_.files.freeBytes(parts_.lists.root()));
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return 0;
   }
 }
@@ -75,7 +77,8 @@ const Text& MoveSummary::volumeOf(const Text& folder) {
   if (added) {
     try {
       place->second = parts_.files.volumeOf(folder);
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       // It counts as lying elsewhere.
     }
   }

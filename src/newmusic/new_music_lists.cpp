@@ -11,6 +11,7 @@
 #include "newmusic/click_hold.h"
 #include "newmusic/tag_values.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::newmusic {
 
@@ -125,7 +126,8 @@ void NewMusicLists::listVolumes() {
   form2_.Drive1.setRows(std::move(rows));
   try {
     form2_.Drive1.setText(parts_.files.volumeOf(form2_.Dir1.path()));
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     form2_.Drive1.setText({});
   }
 }

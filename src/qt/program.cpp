@@ -13,6 +13,7 @@
 #include "system/desktop_trash.h"
 #include "system/posix_files.h"
 #include "system/program_folder.h"
+#include "system/traced_disk.h"
 
 namespace velmora::qt {
 
@@ -31,14 +32,15 @@ void warnIfNothingIsKept(const Text& folder) {
 struct Program::Machine {
   app::Folders folders{system::programFolder(), system::shippedFolder()};
   system::InstanceLock lock{folders.program};
-  system::PosixFiles files;
-  system::DesktopTrash trash{files, system::DesktopTrash::defaultHomeTrash()};
+  system::PosixFiles disk;
+  system::TracedDisk traced{disk, qEnvironmentVariable("VELMORA_TRACE").toLocal8Bit().toStdString()};
+  system::DesktopTrash trash{traced.files(), system::DesktopTrash::defaultHomeTrash()};
   Refresher refresher;
   InputGate gate{refresher};
   QtDialogs dialogs{refresher};
   QtDesktop desktop{lock};
   QtMediaPlayer media;
-  app::Velmora velmora{{files, trash, dialogs, desktop, media}, folders};
+  app::Velmora velmora{{traced.files(), trash, dialogs, desktop, media}, folders};
   Views views{velmora.windows(), {refresher, gate}};
   EndSignals endSignals{[this] {
     dialogs.dismiss();

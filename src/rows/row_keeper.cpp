@@ -8,6 +8,7 @@
 #include "core/number_text.h"
 #include "names/grammar.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "ui/display_limit.h"
 #include "ui/view_choice.h"
 
@@ -102,7 +103,8 @@ void RowKeeper::restoreRow(int row, const journal::RowSnapshot& snapshot, const 
     if (listFollows() && row - 1 <= list.ListCount()) list.insertItem(row - 1, path);
     try {
       table.velicinasfiles += static_cast<double>(parts_.files.size(path));
-    } catch (const platform::FileError&) {
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);
       // A file that cannot be measured counts nothing.
     }
   }

@@ -4,6 +4,7 @@
 
 #include "journal/undo_record.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::rows {
 
@@ -31,7 +32,8 @@ Text RowMover::moveBack(const Text& movedTo, const Text& path) {
   try {
     if (movedTo != path) parts_.files.move(movedTo, path);
     return path;
-  } catch (const FileError&) {
+  } catch (const FileError& error) {
+    platform::caughtSilently(error);
     return movedTo;
   }
 }

@@ -14,6 +14,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "system/posix_error.h"
 #include "system/user_folders.h"
 
@@ -189,7 +190,8 @@ Text DesktopTrash::send(const Text& path) {
 void DesktopTrash::dropInfo(const Text& infoFile) {
   try {
     files_.remove(infoFile);
-  } catch (const FileError&) {
+  } catch (const FileError& error) {
+    platform::caughtSilently(error);
     // An info file without its file is passed over by every desktop.
   }
 }
@@ -207,7 +209,8 @@ void DesktopTrash::bringBack(const Text& trashPath, const Text& target) {
     for (const Text& empty : made) {
       try {
         files_.removeEmptyFolder(empty);
-      } catch (const FileError&) {
+      } catch (const FileError& error) {
+        platform::caughtSilently(error);
         break;
       }
     }

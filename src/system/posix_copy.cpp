@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "system/posix_error.h"
 #include "system/posix_open_file.h"
 
@@ -116,7 +117,8 @@ void discard(const Bytes& path) {
   ::chmod(path.c_str(), 0700);
   try {
     for (const Bytes& name : namesIn(path)) discard(inside(path, name));
-  } catch (const FileError&) {
+  } catch (const FileError& error) {
+    platform::caughtSilently(error);
     return;
   }
   ::rmdir(path.c_str());

@@ -10,6 +10,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "system/descriptor.h"
 #include "system/posix_files.h"
 #include "system/user_folders.h"
@@ -39,7 +40,8 @@ Text programFolder() {
   Text folder = chosenFolder();
   try {
     PosixFiles().makeFolder(folder);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // Nothing will be kept, which canKeepFiles tells.
   }
   return folder;

@@ -8,7 +8,7 @@
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
-#include "platform/file_error.h"
+#include "platform/trace.h"
 #include "tags/form_fields.h"
 #include "tags/mp3_header.h"
 
@@ -64,7 +64,8 @@ void FilePanel::show(const Text& path, int row, InfoMode mode, const BytesOf& by
     showFile(song, path);
     if (mode == InfoMode::WorkingRowsOnly && row > table_.brojfajlova()) return;
     if (song.size() > 0 && cache_.read(song, row)) offerViews(chosen);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // What was shown so far stays.
   }
 }

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::tags {
 
@@ -97,7 +98,8 @@ void clsMP3HeadReader::ReadMP3Header(platform::Files& files, const Text& path) {
     const auto file = files.open(path, platform::OpenMode::Read);
     SongBytes song(*file);
     read(song);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // A file that cannot be read has no header to show.
   }
 }

@@ -6,6 +6,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "tags/side_file.h"
 
 namespace velmora::tags {
@@ -34,7 +35,8 @@ bool OpenSong::busy() {
     if (alone_) return false;
     close();
     return true;
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return files_.busy(path_);
   }
 }
@@ -49,7 +51,8 @@ SongBytes& OpenSong::bytesToRead() {
   if (bytes_) return *bytes_;
   try {
     return bytes();
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     reader_ = files_.open(path_, platform::OpenMode::Read);
     return bytes_.emplace(*reader_);
   }

@@ -7,6 +7,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::tags {
 
@@ -44,7 +45,8 @@ SideFile::~SideFile() {
   file_.reset();
   try {
     files_.remove(path_);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // It stays beside the song, and the next one gets another name.
   }
 }

@@ -4,6 +4,7 @@
 
 #include "core/number_text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "tags/genre.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2_reader.h"
@@ -75,7 +76,8 @@ bool TagCache::read(const Text& path, int row, std::optional<std::uint64_t>* byt
     SongBytes song(*file);
     if (bytes) *bytes = song.size();
     return read(song, row);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return false;
   }
 }
@@ -84,7 +86,8 @@ bool TagCache::read(SongBytes& song, int row) {
   if (table_.track(row).procitan.isTrue()) return true;
   try {
     return readAnew(song, row);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return false;
   }
 }

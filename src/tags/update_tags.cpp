@@ -5,7 +5,9 @@
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "journal/pending_record.h"
+#include "journal/undo_record.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
 #include "tags/put_values.h"
@@ -78,7 +80,8 @@ bool TagWriter::makeReady(OpenSong& song, bool released) {
   }
   try {
     if (!song.isOpen()) parts_.files.clearAttributes(song.path());
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // What keeps the file from being written shows in the dialog of the write.
   }
   return true;
@@ -97,7 +100,8 @@ UpdateResult TagWriter::read(OpenSong& song, int row, Change& change, WhichTags 
 
 UpdateResult TagWriter::writeRecorded(OpenSong& song, int row, Change& change) {
   const Text before = journal::rowSnapshot(parts_.table, row);
-  journal::PendingRecord record(parts_.journal, journal::kind::tagsWritten, core::number(std::int64_t{row}), before);
+  journal::PendingRecord record(parts_.journal, journal::kind::tagsWritten, core::number(std::int64_t{row}),
+                                before);
   const UpdateResult result = writeTags(song, change);
   if (saysOtherwise(song, row, before)) record.keep();
   return result;
@@ -120,7 +124,8 @@ bool TagWriter::saysOtherwise(OpenSong& song, int row, const Text& before) {
   try {
     parts_.cache.readAnew(song.bytesToRead(), row);
     return journal::rowSnapshot(parts_.table, row) != before;
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     parts_.table.track(row).procitan = false;
     return true;
   }

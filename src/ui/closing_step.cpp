@@ -4,6 +4,7 @@
 
 #include "core/number_text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::ui {
 
@@ -27,7 +28,8 @@ void ClosingStep::moze() {
 void ClosingStep::run(const std::function<void()>& command) {
   try {
     command();
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // The command ends with the state as far as it got.
   } catch (...) {
     moze();

@@ -6,6 +6,7 @@
 #include "core/records.h"
 #include "core/text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::ui {
 
@@ -62,7 +63,8 @@ void Tips::load(const Text& path) {
   index_ = 0;
   try {
     tips_ = tipsOf(files_.readAll(path));
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // Told in the window, below.
   }
   if (tips_.empty()) return window_.tip.setText(missingFile);

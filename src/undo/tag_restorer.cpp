@@ -4,6 +4,7 @@
 
 #include "core/number_text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "rows/row_keeper.h"
 #include "tags/genre.h"
 #include "tags/id3v1.h"
@@ -163,7 +164,8 @@ UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {
 bool TagRestorer::makeWritable(const Text& path) {
   try {
     parts_.files.clearAttributes(path);
-  } catch (const FileError&) {
+  } catch (const FileError& error) {
+    platform::caughtSilently(error);
     // What keeps the file from being written shows in the dialog of the write.
   }
   return parts_.busyFile.waitUntilFree(path);

@@ -1,6 +1,7 @@
 #include "undo/undo_commands.h"
 
 #include "platform/file_error.h"
+#include "platform/trace.h"
 #include "ui/quiet_lists.h"
 
 namespace velmora::undo {
@@ -41,7 +42,8 @@ void UndoCommands::restoreAllChanges() {
 void UndoCommands::showState() {
   try {
     showState(parts_.journal.lastUndoMarker());
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     // The next command looks again.
   }
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/trace.h"
 #include "tests/support/headless_velmora.h"
 #include "tests/support/mp3_maker.h"
 
@@ -160,6 +161,24 @@ TEST_F(WiringTest, OtherFilesOpenOverTheProcessingWindowAndHoldItWhileTheyWork) 
   EXPECT_TRUE(program.form1().enabled());
   EXPECT_FALSE(program.folder.exists(u"music/in/notes.txt"));
   EXPECT_FALSE(program.form1().otherFiles.enabled());
+}
+
+TEST_F(WiringTest, TraceTellsEachCommandAndWhatItKeptToItself) {
+  struct Lines final : platform::Trace {
+    void line(std::string_view text) noexcept override { all.emplace_back(text); }
+    std::vector<std::string> all;
+  } trace;
+  addSongs();
+  platform::setTrace(&trace);
+  program.form1().List4.select({0, 1}, 0);
+  program.form1().repair.fixSyntax.click();
+  program.dialogs.expectTitle(u"Clear List", platform::Answer::Cancel);
+  program.form1().newList.click();
+  platform::setTrace(nullptr);
+  std::erase_if(trace.all, [](const std::string& line) { return !line.starts_with("command"); });
+  EXPECT_EQ(trace.all,
+            (std::vector<std::string>{"command fixSyntax: rows 1-2 of 2", "command fixSyntax: done, 0 ms",
+                                      "command newList: rows 1-2 of 2", "command newList: done, 0 ms"}));
 }
 
 TEST_F(WiringTest, SecondClickDuringACommandStartsNothing) {
