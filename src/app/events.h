@@ -13,9 +13,6 @@ struct Events {
   std::function<void()> onResumeDuplicates;
   /// The user leaves the Processing Window in the middle of a review: Exit From Step 3.
   std::function<void()> onExitReview;
-
-  /// The program ends: timers stop, and files that are open are let go.
-  std::function<void()> onEnding;
 };
 
 inline void raise(const std::function<void()>& event) {

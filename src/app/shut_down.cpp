@@ -22,7 +22,6 @@ void unloadForm1(House& house) {
     settings.setNumber(u"vratidup1", pair.ItemData(0));
     settings.setNumber(u"vratidup2", pair.ItemData(1));
   });
-  guarded([&] { raise(house.events.onEnding); });
   guarded([&] {
     settings.setBoolean(u"dupli", house.windows.form7.similarFilename.chosen());
     settings.setNumber(u"ton", table.ton);

@@ -77,7 +77,8 @@ void startInProcessingWindow(House& house) {
 }
 
 void startInBaseWindow(House& house) {
-  // The lists are brought back here too, or the first end without a look at them would store them empty.
+  // The Processing Window's lists are restored although it stays hidden: the end of the program stores them,
+  // and would store empty ones.
   house.processing.restoreLists();
   house.front.showBase();
   pump(house);

@@ -56,14 +56,14 @@ bool FolderCommands::reported(const Text& title, const std::function<void()>& st
   }
 }
 
-/// A folder that has gone since it was listed, or that a row of two of one name leads to in vain, holds
-/// nothing to change.
+/// Whether a row leads to a folder that exists. It may have gone since it was listed, and a path put together
+/// from rows of equal names may lead nowhere.
 bool FolderCommands::there(const Text& folder) const {
   return !folder.empty() && parts_.files.folderExists(folder);
 }
 
-/// A row that leads to a genre that is not selected, as one of two artists of one name may, would change what
-/// nobody asked for.
+/// The selected artists whose genre is selected too: of two artists of one name in two genres, a row may lead
+/// to the genre that is not.
 std::vector<int> FolderCommands::selectedArtists() const {
   const ui::Form3& form3 = parts_.windows.form3;
   std::vector<int> artists = form3.List2.selectedIndexes();

@@ -15,8 +15,8 @@ namespace velmora::base {
 /// real folder once, however many links lead to it.
 class FolderWalk {
  public:
-  /// What a link to a folder is to the walk. Who moves or deletes must not reach through it to what lies
-  /// outside of the tree: the link goes as it is.
+  /// Whether the walk enters a link to a folder, or takes the link itself for a file. Commands that move or
+  /// delete use AreFiles, so that they never act on what lies outside of the tree.
   enum class Links { AreFolders, AreFiles };
 
   FolderWalk(platform::Files& files, Links links) : files_(files), links_(links) {}

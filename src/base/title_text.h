@@ -29,8 +29,9 @@ class TitleText {
 
   bool withArtist_;
   std::vector<Text> artists_;
-  // A name is looked through once, however many artists are selected: the first characters at a place tell
-  // how long an artist that stands there can be, and the whole of him tells his last row.
+  // To find the artists in a name at a cost that does not grow with their number: the first characters at a
+  // position are looked up to learn which lengths an artist that starts there can have, and each such stretch
+  // of the name is then looked up whole.
   static constexpr std::size_t longestStart = 3;
   std::array<bool, longestStart + 1> startsOfLength_ = {};
   std::unordered_map<TextView, std::vector<std::size_t>> lengthsByStart_;

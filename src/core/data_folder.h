@@ -32,10 +32,10 @@ class DataFolder {
   void savenizove(const TrackTable& table);
   /// Writes the fifteen tag columns.
   void SaveID3nizove(const TrackTable& table);
-  /// Songs and rows are about to change: until both saves above have told how, a start of the program takes
-  /// no row for read and asks the files again, and knows the rows of the Music Base by themselves. So a kill
-  /// leaves no columns that speak of other songs, and no count of other rows. Each save alone is such a
-  /// change too. The file velmora.changing in the program folder marks that time.
+  /// Called before songs or rows change. Makes the file velmora.changing in the program folder; it goes when
+  /// both saves above have run. A start that finds it there takes every row for unread, so that the tags are
+  /// read from the files again, and finds out by path which rows belong to the Music Base. Without it, a kill
+  /// between the saves could leave tag columns that belong to other rows. Each save alone makes the file too.
   void beginChange();
   /// File that a column is kept in, such as "crtapos.txt"; empty for `pevac` and `pesma`.
   static TextView fileOf(Column column);

@@ -10,7 +10,7 @@
 
 /// The records of the undo journal taken apart again. A record is three letters of kind, and for data records
 /// L(first), a blank and the rest, where L(x) is the length of x and x (see lengthPrefixed); docs/formats.md
-/// has them all. Everything here reads any text: what does not fit gives nothing, never a part of the truth.
+/// has them all. The readers here take any text; what is damaged anywhere gives nothing at all.
 namespace velmora::journal {
 
 /// One line of the journal. The kind is the first three letters, whatever follows.

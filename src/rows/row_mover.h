@@ -47,7 +47,9 @@ class RemovedRows {
   int now(int row) const;
 
  private:
-  std::vector<int> removed_;  // counts by the lowest set bit of their place: sums and changes cost log N
+  // A Fenwick tree of the removed rows: element i counts those among the rows i - lowbit(i) + 1 to i, so that
+  // removing a row and counting the rows below one cost log N each.
+  std::vector<int> removed_;
 };
 
 }  // namespace velmora::rows

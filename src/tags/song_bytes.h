@@ -47,8 +47,8 @@ class SongBytes {
   Stretch head_;  // the first block is kept, since all readers begin there
   Stretch ahead_;
   Stretch end_;  // kept, too, since the writer of the tag that lies there looks at it once more
-  // What the stretches see. The first block is all that most songs are asked for, and it is not worth a trip
-  // to the heap, which would tidy itself up for a block of that size.
+  // The bytes of the three stretches. Most songs are read no further than the first block, so it lies in the
+  // object: to allocate and free a block of that size for each song costs more than to read it.
   std::array<char, firstChunk> headBlock_;
   std::array<char, endBytes> endBlock_;
   Bytes aheadBlock_;

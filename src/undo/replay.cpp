@@ -39,8 +39,9 @@ void Replay::replayUndo(std::string_view stopKind) {
   parts_.data.beginChange();
   try {
     const std::uint64_t left = takeBack(stopKind);
-    // The journal goes last: records that a kill leaves in it are passed over by the next undo, but nothing
-    // would bring a table that is older than the journal up to the songs' names.
+    // The journal is cut last. After a kill before that, the next undo passes over the records whose changes
+    // are back already. Were it cut first, a kill would leave a table with names that the songs no longer
+    // bear, and no record to tell the old ones from the new.
     parts_.errors.attempt([this] { parts_.data.savenizove(parts_.table); });
     parts_.errors.attempt([this] { parts_.data.SaveID3nizove(parts_.table); });
     parts_.errors.attempt([&] { parts_.journal.cutAt(left); });

@@ -49,6 +49,9 @@ TEST_F(ListBoxTest, RemovingAndInsertingKeepsMarksOnTheirRows) {
   list.select({1, 3}, 3);
   list.insertItem(0, u"new", 7);
   EXPECT_EQ(list.selectedIndexes(), (std::vector<int>{2, 4}));
+  list.insertItem(4, u"before the current row", 0);
+  EXPECT_EQ(list.ListIndex(), 5);
+  list.RemoveItem(4);
   EXPECT_EQ(list.ListIndex(), 4);
   list.RemoveItem(2);
   EXPECT_EQ(list.selectedIndexes(), (std::vector<int>{3}));
