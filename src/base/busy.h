@@ -12,10 +12,10 @@ namespace velmora::base {
 /// front of them, and both are disabled meanwhile. HideBusy comes however the scope ends.
 class Busy {
  public:
-  Busy(ui::Windows& windows, ui::Progress& progress, Text text) : windows_(windows), progress_(progress) {
+  Busy(ui::Windows& windows, ui::Progress& progress, TextView text) : windows_(windows), progress_(progress) {
     windows_.form2.setEnabled(false);
     windows_.form3.setEnabled(false);
-    progress_.show(std::move(text));
+    progress_.show(text);
   }
   ~Busy() {
     progress_.close();

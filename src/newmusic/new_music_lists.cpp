@@ -87,6 +87,7 @@ void NewMusicLists::List1Click() {
   const std::vector<GenreRow> genres = chosenGenres();
   if (genres.size() == 1 && genres.front().index >= firstGenre) form2_.Combo1.setText(genres.front().text);
   std::vector<ui::ListItem> chosen;
+  chosen.reserve(genres.size());
   for (const GenreRow& genre : genres)
     chosen.push_back({genre.index == 1 ? Text() : genre.text, genre.index});
   form2_.List5.fillItems(std::move(chosen));

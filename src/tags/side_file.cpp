@@ -57,7 +57,7 @@ void SideFile::write(BytesView bytes) {
 }
 
 void SideFile::writeZeros(std::uint64_t count) {
-  const Bytes block(static_cast<std::size_t>(std::min<std::uint64_t>(count, 64 * 1024)), '\0');
+  const Bytes block(static_cast<std::size_t>(std::min<std::uint64_t>(count, std::uint64_t{64} * 1024)), '\0');
   while (count > 0) {
     const BytesView part =
         BytesView(block).substr(0, static_cast<std::size_t>(std::min<std::uint64_t>(count, block.size())));
