@@ -190,6 +190,14 @@ void TracedFiles::clearAttributes(const Text& path) {
   run(trace_, named("clearAttributes", path), [&] { files_.clearAttributes(path); });
 }
 
+Text TracedFiles::identity(const Text& path) {
+  return run(trace_, named("identity", path), [&] { return files_.identity(path); });
+}
+
+void TracedFiles::beforeRemoval(std::function<void()> call) {
+  files_.beforeRemoval(std::move(call));
+}
+
 bool TracedFiles::busy(const Text& path) {
   return run(trace_, named("busy", path), [&] { return files_.busy(path); });
 }

@@ -28,6 +28,8 @@ class TracedFiles final : public platform::Files {
   void remove(const Text& path) override;
   void removeEmptyFolder(const Text& path) override;
   void clearAttributes(const Text& path) override;
+  Text identity(const Text& path) override;
+  void beforeRemoval(std::function<void()> call) override;
   bool busy(const Text& path) override;
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;
