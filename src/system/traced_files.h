@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "platform/files.h"
 #include "platform/trace.h"
 
@@ -28,6 +31,8 @@ class TracedFiles final : public platform::Files {
   void remove(const Text& path) override;
   void removeEmptyFolder(const Text& path) override;
   void clearAttributes(const Text& path) override;
+  Text identity(const Text& path) override { return files_.identity(path); }
+  void beforeRemoval(std::function<void()> call) override { files_.beforeRemoval(std::move(call)); }
   bool busy(const Text& path) override;
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;
