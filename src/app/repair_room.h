@@ -25,8 +25,10 @@
 #include "ui/failures.h"
 #include "ui/progress.h"
 #include "ui/windows.h"
+#include "undo/file_restorer.h"
 #include "undo/name_restorer.h"
 #include "undo/replay.h"
+#include "undo/songs.h"
 #include "undo/tag_restorer.h"
 #include "undo/undo_commands.h"
 #include "undo/undo_errors.h"
@@ -70,6 +72,8 @@ struct RepairRoom {
   rows::FileMover mover;
   list::DeleteFiles deleteFiles;
   undo::UndoErrors undoErrors;
+  undo::Songs songs;
+  undo::FileRestorer fileRestorer;
   undo::TagRestorer tagRestorer;
   undo::NameRestorer nameRestorer;
   undo::Replay replay;

@@ -66,8 +66,8 @@ Bytes toBytes(TextView text) {
 }
 
 Text canonical(Text name) {
-  const bool stray = std::ranges::any_of(name, isLow);
-  return stray ? fromBytes(toBytes(name)) : name;
+  const auto isSurrogate = [](char16_t unit) { return isHigh(unit) || isLow(unit); };
+  return std::ranges::any_of(name, isSurrogate) ? fromBytes(toBytes(name)) : name;
 }
 
 Text ascii(std::string_view literal) {

@@ -25,6 +25,7 @@ inline constexpr std::string_view rowRemoved = "izb";
 inline constexpr std::string_view fileMoved = "mov";
 inline constexpr std::string_view folderMade = "mkd";
 inline constexpr std::string_view folderMoved = "prs";
+inline constexpr std::string_view songPlace = "now";  ///< written by undo: where a song lies
 inline constexpr std::string_view otherFileDeleted = "add";
 inline constexpr std::string_view selection = "bi1";
 inline constexpr std::string_view windows = "biv";

@@ -65,6 +65,7 @@ UndoJournal::Place UndoJournal::appendChange(std::initializer_list<NewRecord> re
   Bytes lines;
   for (const NewRecord& record : records) lines += lineOf(recordOf(record));
   const Group group(*this);
+  changing_ = true;
   const Place place = append(lines);
   if (changed_ && ++unsynced_ < mostUnsynced) return place;
   try {
@@ -91,6 +92,7 @@ void UndoJournal::withdraw(const Place& place) {
 
 void UndoJournal::openGroup() {
   if (groups_++ > 0) return;
+  changing_ = false;
   changed_ = false;
   told_ = false;
   files_.beforeRemoval([this] { sync(); });
@@ -159,7 +161,9 @@ UndoJournal::Place UndoJournal::append(BytesView lines) {
 }
 
 void UndoJournal::fail(const platform::FileError& cause) {
-  if (!std::exchange(told_, true) && onNotRecorded) onNotRecorded(cause);
+  // The innermost group is the append's own. With no other, no change hangs on a marker.
+  const bool matters = groups_ > 1 || changing_;
+  if (matters && !std::exchange(told_, true) && onNotRecorded) onNotRecorded(cause);
   throw NotRecorded(cause);
 }
 

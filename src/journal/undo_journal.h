@@ -39,7 +39,8 @@ class UndoJournal {
 
   /// Raised with the kind after each marker, so that the undo buttons of the window concerned can follow.
   std::function<void(std::string_view kind)> onMarker;
-  /// Raised ahead of a NotRecorded, once in a group: the user is to be told.
+  /// Raised ahead of a NotRecorded, once in a group and for each change outside of one: the user is to be
+  /// told.
   std::function<void(const platform::FileError& cause)> onNotRecorded;
 
   /// Open while one command makes its changes: the file is opened once, and brought to the disk ahead of the
@@ -112,7 +113,8 @@ class UndoJournal {
   std::unique_ptr<platform::OpenFile> file_;  // open within a group from its first record on
   std::uint64_t end_ = 0;                     // of the file as the last append left it
   int unsynced_ = 0;                          // changes whose records are not known to be on the disk
-  bool changed_ = false;                      // the group has made a change
+  bool changing_ = false;                     // the group has had a change to record
+  bool changed_ = false;                      // and its first record is on the disk
   bool dirty_ = false;                        // something was written since the last sync
   bool told_ = false;                         // the user knows that this group cannot be recorded
 };

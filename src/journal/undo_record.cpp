@@ -74,6 +74,13 @@ std::optional<TextView> longSelection(TextView fields) {
   return fields.substr(digits, length);
 }
 
+/// A field that older versions did not write, empty then; nothing when more than that one is left.
+std::optional<TextView> lastField(FieldReader& fields) {
+  if (fields.left().empty()) return TextView();
+  const auto field = fields.next();
+  return fields.left().empty() ? field : std::nullopt;
+}
+
 }  // namespace
 
 bool UndoRecord::is(std::string_view other) const {
@@ -110,26 +117,44 @@ std::optional<RenamePayload> parseRenamePayload(TextView text) {
   const auto row = fields.next();
   const auto path = fields.next();
   const auto crtapos = fields.next();
-  if (!row || !path || !crtapos) return std::nullopt;
-  const auto identity = fields.left().empty() ? std::optional<TextView>(TextView()) : fields.next();
-  if (!identity || !fields.left().empty()) return std::nullopt;
+  const auto identity = lastField(fields);
+  if (!row || !path || !crtapos || !identity) return std::nullopt;
   const std::optional<int> rowNumber = parseRow(*row);
   if (!rowNumber || path->empty()) return std::nullopt;
   return RenamePayload{*rowNumber, Text(*path), Text(*crtapos), Text(*identity)};
 }
 
-Text deletedFile(std::uint64_t size, TextView path) {
-  return lengthPrefixed(core::number(static_cast<std::int64_t>(size))) + lengthPrefixed(path);
+Text deletedFile(std::uint64_t size, TextView path, TextView identity) {
+  return lengthPrefixed(core::number(static_cast<std::int64_t>(size))) + lengthPrefixed(path) +
+         lengthPrefixed(identity);
 }
 
 std::optional<DeletedFile> parseDeletedFile(TextView text) {
   FieldReader fields(text);
   const auto size = fields.next();
   const auto path = fields.next();
-  if (!size || !path || !fields.left().empty() || path->empty()) return std::nullopt;
+  const auto identity = lastField(fields);
+  if (!size || !path || !identity || path->empty()) return std::nullopt;
   const auto bytes = parseNumber<std::uint64_t>(*size);
   if (!bytes) return std::nullopt;
-  return DeletedFile{*bytes, Text(*path)};
+  return DeletedFile{*bytes, Text(*path), Text(*identity)};
+}
+
+Text movedFile(TextView path, TextView identity, std::uint64_t size) {
+  return lengthPrefixed(path) + lengthPrefixed(identity) +
+         lengthPrefixed(core::number(static_cast<std::int64_t>(size)));
+}
+
+/// Older versions wrote the path alone, and no full path begins like a field.
+std::optional<MovedFile> parseMovedFile(TextView text) {
+  if (text.empty()) return std::nullopt;
+  if (!isDigit(text.front()) && text.front() != u'#') return MovedFile{Text(text), {}, std::nullopt};
+  FieldReader fields(text);
+  const auto path = fields.next();
+  const auto identity = fields.next();
+  const auto size = fields.next();
+  if (!path || !identity || !size || !fields.left().empty() || path->empty()) return std::nullopt;
+  return MovedFile{Text(*path), Text(*identity), parseNumber<std::uint64_t>(*size)};
 }
 
 const std::array<core::Column, 12>& snapshotColumns() {

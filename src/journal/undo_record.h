@@ -60,9 +60,19 @@ std::optional<RenamePayload> parseRenamePayload(TextView text);
 struct DeletedFile {
   std::uint64_t size;  ///< bytes
   Text path;
+  Text identity;  ///< of the file ahead of its way to the trash; empty in records of older versions
 };
-Text deletedFile(std::uint64_t size, TextView path);
+Text deletedFile(std::uint64_t size, TextView path, TextView identity);
 std::optional<DeletedFile> parseDeletedFile(TextView text);
+
+/// Rest of a "mov" record.
+struct MovedFile {
+  Text path;                          ///< the new one
+  Text identity;                      ///< of the file ahead of the move; empty in records of older versions
+  std::optional<std::uint64_t> size;  ///< bytes; nothing in records of older versions
+};
+Text movedFile(TextView path, TextView identity, std::uint64_t size);
+std::optional<MovedFile> parseMovedFile(TextView text);
 
 /// The text of rowSnapshot taken apart.
 struct RowSnapshot {

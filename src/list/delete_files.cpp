@@ -2,9 +2,13 @@
 
 #include <algorithm>
 #include <functional>
+#include <initializer_list>
+#include <optional>
 #include <unordered_map>
 
 #include "core/number_text.h"
+#include "journal/pending_record.h"
+#include "journal/record_kind.h"
 #include "journal/undo_group.h"
 #include "journal/undo_record.h"
 #include "list/other_rows.h"
@@ -107,51 +111,56 @@ void DeleteFiles::deleteRows(std::vector<int> rows, bool withSelection) {
       platform::caughtSilently(error);
       // Nothing more goes when it cannot be journalled.
     }
+    group.end();
     parts_.settings.set(u"velicinasfiles", core::number(parts_.table.velicinasfiles));
     parts_.data.savenizove(parts_.table);
     parts_.data.SaveID3nizove(parts_.table);
     if (parts_.table.currentRow == 0) parts_.panel.clear();
   });
+  sayWhatStayed();
 }
 
 void DeleteFiles::deleteRow(int row) {
-  const Text path = parts_.table.path(row);
-  const bool working = row <= parts_.table.brojfajlova();
+  const core::TrackTable& table = parts_.table;
+  const Text path = table.path(row);
+  const Text number = core::number(std::int64_t{row});
+  const Text snapshot = journal::rowSnapshot(table, row);
+  const bool working = row <= table.brojfajlova();
   std::uint64_t size = 0;
-  try {
-    if (parts_.files.fileExists(path)) size = parts_.files.size(path);
-  } catch (const FileError& error) {
-    platform::caughtSilently(error);
-    return;  // without its size it would not be known again in the trash
+  std::optional<journal::PendingRecord> record;
+  letGo(path);
+  if (!parts_.files.fileExists(path)) {
+    record.emplace(parts_.journal, journal::kind::rowRemoved, number, snapshot);
+  } else {
+    try {
+      size = parts_.files.size(path);
+      const Text deleted = journal::deletedFile(size, path, parts_.files.identity(path));
+      parts_.trash.send(path, [&](const Text& trashPath) {
+        record.reset();
+        record.emplace(parts_.journal, std::initializer_list<journal::NewRecord>{
+                                           {journal::kind::rowRemoved, number, snapshot},
+                                           {journal::kind::fileDeleted, deleted, trashPath}});
+      });
+    } catch (const journal::NotRecorded&) {
+      throw;
+    } catch (const FileError& error) {
+      return stayed_.add(path, error.description);
+    }
   }
-  Text trashPath;
-  if (!sendToTrash(path, trashPath)) return;
-  try {
-    parts_.rows.removeRow(row);
-    if (working)
-      parts_.table.velicinasfiles = std::max(0.0, parts_.table.velicinasfiles - static_cast<double>(size));
-    if (trashPath.empty()) return;
-    parts_.journal.appendUndoRecord(journal::kind::fileDeleted, journal::deletedFile(size, path), trashPath);
-  } catch (const FileError&) {
-    // What cannot be taken back must not stay.
-    if (!trashPath.empty()) parts_.trash.bringBack(trashPath, path);
-    throw;
-  }
+  record->keep();
+  parts_.rows.removeRow(row);
+  if (working)
+    parts_.table.velicinasfiles = std::max(0.0, parts_.table.velicinasfiles - static_cast<double>(size));
 }
 
-/// Whether the file is gone from its place; `trashPath` stays empty for one that was gone before.
-bool DeleteFiles::sendToTrash(const Text& path, Text& trashPath) {
+/// Those that play the file stop.
+void DeleteFiles::letGo(const Text& path) {
   if (onDeleting) onDeleting(path);
   if (parts_.player.holds(path)) parts_.player.close();
-  if (!parts_.files.fileExists(path)) return true;
-  try {
-    trashPath = parts_.trash.send(path);
-    return true;
-  } catch (const FileError& error) {
-    platform::caughtSilently(error);
-    // The file keeps its row.
-    return false;
-  }
+}
+
+void DeleteFiles::sayWhatStayed() {
+  stayed_.say(parts_.dialogs, u"Delete", u"file was not deleted", u"files were not deleted");
 }
 
 void DeleteFiles::deleteOthers() {
@@ -164,11 +173,19 @@ void DeleteFiles::deleteOthers() {
     const int count = list.SelCount();
     int done = 0;
     std::vector<Text> left;
+    const auto gone = [this](const Text& path) {
+      letGo(path);
+      try {
+        if (parts_.files.fileExists(path)) parts_.trash.send(path);
+        return true;
+      } catch (const FileError& error) {
+        stayed_.add(path, error.description);
+        return false;
+      }
+    };
     for (int index = 0; index < list.ListCount(); ++index) {
-      Text trashPath;
       const bool chosen = list.Selected(index);
-      if (!chosen || parts_.table.Stop || !sendToTrash(list.List(index), trashPath))
-        left.push_back(list.List(index));
+      if (!chosen || parts_.table.Stop || !gone(list.List(index))) left.push_back(list.List(index));
       if (chosen) parts_.progress.UpdateProgress(100.0 * ++done / count);
     }
     // Behind them come those that the list has no room for.
@@ -180,6 +197,7 @@ void DeleteFiles::deleteOthers() {
     list::listOtherFiles(parts_.table, parts_.files, parts_.progress, parts_.form1);
     list.setTopIndex(top);
   });
+  sayWhatStayed();
 }
 
 }  // namespace velmora::list

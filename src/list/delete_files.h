@@ -15,11 +15,13 @@
 #include "tags/file_panel.h"
 #include "ui/closing_step.h"
 #include "ui/form1.h"
+#include "ui/not_done.h"
 #include "ui/progress.h"
 
 namespace velmora::list {
 
-/// Delete: files go to the desktop's trash, and the journal remembers where they lie there.
+/// Delete: files go to the desktop's trash, and the journal remembers where they lie there. What could not go
+/// stays in its list, and is told at the end.
 class DeleteFiles {
  public:
   struct Parts {
@@ -61,10 +63,12 @@ class DeleteFiles {
   void deleteRows(std::vector<int> rows, bool withSelection);
   void deleteRow(int row);
   void deleteOthers();
-  bool sendToTrash(const Text& path, Text& trashPath);
+  void letGo(const Text& path);
+  void sayWhatStayed();
   std::vector<int> selectedRows() const;
 
   Parts parts_;
+  ui::NotDone stayed_;
 };
 
 }  // namespace velmora::list

@@ -57,8 +57,9 @@ void OtherFiles::moveSelected() {
   ui::Failures failures(parts_.dialogs);
   rows::FileMover mover(parts_.files, failures, parts_.player);
   const auto move = [&mover, &folder](const Text& path) {
-    const auto result = mover.move(path, core::paths::join(*folder, core::paths::fileName(path)));
-    return Outcome{result == rows::MoveResult::Moved, result != rows::MoveResult::Abort};
+    const Text target = core::paths::join(*folder, core::paths::fileName(path));
+    const auto result = mover.move(path, target);
+    return Outcome{result == rows::MoveResult::Moved && target != path, result != rows::MoveResult::Abort};
   };
   failures.during({u"Move To", u"file was not moved", u"files were not moved"},
                   static_cast<std::size_t>(parts_.windows.form8.list.SelCount()),

@@ -106,6 +106,8 @@ void MoveCollect::makeFolder(const Text& folder) {
     if (folder.starts_with(missing)) return;
   try {
     folders_.PostojiDir(folder);
+  } catch (const journal::NotRecorded&) {
+    throw;
   } catch (const platform::FileError& error) {
     platform::caughtSilently(error);
     missing_.push_back(folder);

@@ -104,11 +104,13 @@ void MoveCommands::run(MoveColumn column, const Text& caption,
     AfterMove after({parts_.table, parts_.windows, parts_.base, parts_.lists});
     Text target;
     std::vector<PlannedMoves> moves;
-    {
+    try {
       const ui::QuietLists quietly(parts_.table);
       MoveCollect collect(parts_.table, form2_, parts_.folders);
       target = plan(collect);
       moves = collect.take();
+    } catch (const journal::NotRecorded&) {
+      // A folder could not be journalled, so nothing moves.
     }
     parts_.progress.setText(moving);
     // Artists that leave the list are looked for here; all is listed anew in the end.

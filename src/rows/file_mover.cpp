@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
+#include "journal/undo_journal.h"
 #include "platform/file_error.h"
 
 namespace velmora::rows {
@@ -39,6 +40,8 @@ MoveResult FileMover::moveBy(const Move& moveOnce, const Text& path, const Text&
       handOver.renamed(reached);
       if (movedTo) *movedTo = std::move(reached);
       return MoveResult::Moved;
+    } catch (const journal::NotRecorded&) {
+      throw;
     } catch (const platform::FileError& error) {
       const Text text = u"Error #" + core::plain(std::int64_t{error.number}) + u" while moving { " + path +
                         u" } occurred: " + error.description;

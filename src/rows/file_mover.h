@@ -28,10 +28,12 @@ class FileMover {
   /// The same for a file that lies in the trash under `trashPath`.
   MoveResult bringBack(platform::Trash& trash, const Text& trashPath, const Text& target,
                        Text* movedTo = nullptr);
-
- private:
+  /// The same with a move of the caller's own, which is called for each name that is tried. A NotRecorded of
+  /// it passes through.
   using Move = std::function<void(const Text& to)>;
   MoveResult moveBy(const Move& moveOnce, const Text& path, const Text& target, Text* movedTo);
+
+ private:
   static Text moveToFreeName(const Move& moveOnce, const Text& path, Text target);
 
   platform::Files& files_;

@@ -16,13 +16,12 @@ namespace velmora::rows {
 
 namespace {}  // namespace
 
-void fillFromSnapshot(core::Track& track, const journal::RowSnapshot& snapshot) {
+void fillTags(core::Track& track, const journal::RowSnapshot& snapshot) {
   track.procitan = snapshot.procitan;
   track.imaid3v1 = snapshot.imaid3v1;
   track.imaid3v2 = snapshot.imaid3v2;
   for (std::size_t i = 0; i < snapshot.tags.size(); ++i)
     track.*journal::snapshotColumns()[i] = snapshot.tags[i];
-  track.nizdes = snapshot.path;
 }
 
 bool RowKeeper::listFollows() const {
@@ -69,8 +68,6 @@ void RowKeeper::listRows() {
 void RowKeeper::removeRow(int row) {
   core::TrackTable& table = parts_.table;
   if (!table.hasRow(row)) return;
-  parts_.journal.appendUndoRecord(journal::kind::rowRemoved, core::number(std::int64_t{row}),
-                                  journal::rowSnapshot(table, row));
   const bool listed = row <= table.brojfajlova() && listFollows();
   const Text artist = table.track(row).pevac.text();
   if (paths_) paths_->erase(table.path(row));
@@ -83,18 +80,33 @@ void RowKeeper::removeRow(int row) {
   parts_.artists.IzbaciAutora(artist);
 }
 
-void RowKeeper::restoreRow(int row, const journal::RowSnapshot& snapshot, const Text& path) {
+bool RowKeeper::restoreRow(int row, const journal::RowSnapshot& snapshot, const Text& path) {
+  return insertRow(row, path, row <= snapshot.brojfajlova, [&snapshot](core::Track& track) {
+    fillTags(track, snapshot);
+    track.crtapos = snapshot.crtapos;
+  });
+}
+
+bool RowKeeper::addRow(int row, const Text& path) {
+  return insertRow(row, path, true, nullptr);
+}
+
+/// Without `fill` the dash is looked for in the name.
+bool RowKeeper::insertRow(int row, const Text& path, bool working,
+                          const std::function<void(core::Track&)>& fill) {
   core::TrackTable& table = parts_.table;
-  if (!parts_.files.fileExists(path)) return;
+  if (!parts_.files.fileExists(path)) return false;
   // After a crash the table may be older than the journal, and then it never lost the row.
-  if (tableHas(row, path)) return;
-  const bool working = row <= snapshot.brojfajlova;
-  row = std::min(row, (working ? table.workingRows() : table.rows()) + 1);
+  if (tableHas(row, path)) return true;
+  row = std::clamp(row, 1, (working ? table.workingRows() : table.rows()) + 1);
   table.insertRow(row);
   if (working) table.setBrojfajlova(table.workingRows() + 1);
-  fillFromSnapshot(table.track(row), snapshot);
-  table.track(row).nizdes = path;
-  table.track(row).crtapos = snapshot.crtapos;
+  core::Track& track = table.track(row);
+  track.nizdes = path;
+  if (fill)
+    fill(track);
+  else
+    track.crtapos = core::number(std::int64_t{names::dashAfterRename(names::ImeFajla(table, row), {})});
   names::PevacIPesma(table, row);
   if (table.currentRow >= row) ++table.currentRow;
   if (table.vrsta == core::Review::Duplicates && onDuplicateRestored) onDuplicateRestored(row);
@@ -108,7 +120,8 @@ void RowKeeper::restoreRow(int row, const journal::RowSnapshot& snapshot, const 
       // A file that cannot be measured counts nothing.
     }
   }
-  parts_.artists.DodajAutora(table.track(row).pevac.text());
+  parts_.artists.DodajAutora(track.pevac.text());
+  return true;
 }
 
 }  // namespace velmora::rows

@@ -5,7 +5,6 @@
 #include <unordered_set>
 
 #include "core/track_table.h"
-#include "journal/undo_journal.h"
 #include "journal/undo_record.h"
 #include "platform/files.h"
 #include "rows/artist_book.h"
@@ -19,7 +18,6 @@ class RowKeeper {
   struct Parts {
     core::TrackTable& table;
     platform::Files& files;
-    journal::UndoJournal& journal;
     ArtistBook& artists;
     ui::Form1& form1;
   };
@@ -28,12 +26,13 @@ class RowKeeper {
   /// Raised in the duplicates view after a row came back: the rows from there on are one further down.
   std::function<void(int row)> onDuplicateRestored;
 
-  /// Journals "izb" with the snapshot of the row and takes it out. Throws FileError when it could not be
-  /// journalled; the row then stays.
+  /// Takes a row out; its "izb" record stands in the journal by then.
   void removeRow(int row);
   /// Puts a row back where it was, with its file at `path` now. Does nothing when the file is not there, or
-  /// when the table still has the row.
-  void restoreRow(int row, const journal::RowSnapshot& snapshot, const Text& path);
+  /// when the table still has the row. Returns whether the table has it now.
+  bool restoreRow(int row, const journal::RowSnapshot& snapshot, const Text& path);
+  /// The same for a row of the working list of which nothing is known but its place: it is unread.
+  bool addRow(int row, const Text& path);
 
   /// Open while a command removes or restores many rows, so that each costs the same however long the file
   /// list is: the list follows all at once when the last scope closes, and keeps its selection. Its lines
@@ -54,6 +53,7 @@ class RowKeeper {
 
  private:
   void closeBatch();
+  bool insertRow(int row, const Text& path, bool working, const std::function<void(core::Track&)>& fill);
   bool tableHas(int row, const Text& path);
   bool listFollows() const;
   void listRows();
@@ -63,7 +63,7 @@ class RowKeeper {
   std::optional<std::unordered_set<Text>> paths_;  // of all rows, from the first restore in a batch on
 };
 
-/// Gives a row the flags, tag columns and path of a snapshot.
-void fillFromSnapshot(core::Track& track, const journal::RowSnapshot& snapshot);
+/// Gives a row the flags and tag columns of a snapshot.
+void fillTags(core::Track& track, const journal::RowSnapshot& snapshot);
 
 }  // namespace velmora::rows

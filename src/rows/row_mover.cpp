@@ -1,20 +1,23 @@
 #include "rows/row_mover.h"
 
+#include <initializer_list>
 #include <optional>
 
+#include "core/number_text.h"
+#include "journal/pending_record.h"
+#include "journal/record_kind.h"
 #include "journal/undo_record.h"
-#include "platform/file_error.h"
-#include "platform/trace.h"
 
 namespace velmora::rows {
 
-using platform::FileError;
-
 MoveResult RowMover::moveFile(const Text& path, const Text& target, int likelyRow) {
-  Text movedTo;
-  const MoveResult result = parts_.mover.move(path, target, &movedTo);
-  if (result != MoveResult::Moved || parts_.table.puniliste == 1) return result;
-  record(path, movedTo, findRow(path, likelyRow));
+  if (parts_.table.puniliste == 1) return parts_.mover.move(path, target);
+  const int row = findRow(path, likelyRow);
+  const auto move = [&](const Text& to) { moveRecorded(path, to, row); };
+  const MoveResult result = parts_.mover.moveBy(move, path, target, nullptr);
+  // What lies at its target already leaves the list too.
+  if (result == MoveResult::Moved && path == target) move(target);
+  if (result == MoveResult::Moved && row > 0) parts_.rows.removeRow(row);
   return result;
 }
 
@@ -27,36 +30,18 @@ int RowMover::findRow(const Text& path, int likelyRow) const {
   return 0;
 }
 
-/// Returns where the file lies now.
-Text RowMover::moveBack(const Text& movedTo, const Text& path) {
-  try {
-    if (movedTo != path) parts_.files.move(movedTo, path);
-    return path;
-  } catch (const FileError& error) {
-    platform::caughtSilently(error);
-    return movedTo;
-  }
-}
-
-void RowMover::record(const Text& path, const Text& movedTo, int row) {
-  const double listedBytes = parts_.table.velicinasfiles;
-  const Text snapshot = row > 0 ? journal::rowSnapshot(parts_.table, row) : Text();
-  bool removed = false;
-  try {
-    if (row > 0) parts_.rows.removeRow(row);
-    removed = row > 0;
-    parts_.journal.appendUndoRecord(journal::kind::fileMoved, path, movedTo);
-  } catch (const FileError&) {
-    // What cannot be taken back must not stay. Where the file cannot go back either, its row follows it.
-    const Text place = moveBack(movedTo, path);
-    const auto before = journal::parseRowSnapshot(snapshot);
-    if (removed && before)
-      parts_.rows.restoreRow(row, *before, place);
-    else if (row > 0)
-      parts_.table.track(row).nizdes = place;
-    parts_.table.velicinasfiles = listedBytes;
-    throw;
-  }
+void RowMover::moveRecorded(const Text& path, const Text& to, int row) {
+  const Text moved = journal::movedFile(to, parts_.files.identity(path), parts_.files.size(path));
+  std::optional<journal::PendingRecord> record;
+  if (row > 0)
+    record.emplace(parts_.journal, std::initializer_list<journal::NewRecord>{
+                                       {journal::kind::rowRemoved, core::number(std::int64_t{row}),
+                                        journal::rowSnapshot(parts_.table, row)},
+                                       {journal::kind::fileMoved, path, moved}});
+  else
+    record.emplace(parts_.journal, journal::kind::fileMoved, path, moved);
+  if (to != path) parts_.files.move(path, to);
+  record->keep();
 }
 
 void RemovedRows::remove(int row) {

@@ -22,16 +22,14 @@ class RowMover {
   };
   explicit RowMover(const Parts& parts) : parts_(parts) {}
 
-  /// Moves a file to the full path `target`. Unless `puniliste` is 1 the row of the file leaves the table and
-  /// the move is journalled ("izb", "mov"). `likelyRow` is where the row is looked for first. Throws
-  /// FileError when the move could not be journalled; file and row are then as they were, or, where the file
-  /// cannot go back, the row tells where it lies.
+  /// Moves a file to the full path `target`. Unless `puniliste` is 1 the move is journalled first ("izb",
+  /// "mov"), and the row of the file leaves the table. `likelyRow` is where the row is looked for first.
+  /// Throws journal::NotRecorded; file and row are then as they were.
   MoveResult moveFile(const Text& path, const Text& target, int likelyRow = 0);
 
  private:
   int findRow(const Text& path, int likelyRow) const;
-  Text moveBack(const Text& movedTo, const Text& path);
-  void record(const Text& path, const Text& movedTo, int row);
+  void moveRecorded(const Text& path, const Text& to, int row);
 
   Parts parts_;
 };

@@ -32,14 +32,17 @@ constexpr int mostTries = 100'000;        // names that are taken, for one file
 constexpr std::size_t longestName = 255;  // bytes
 constexpr std::size_t roomForNumber = 8;  // bytes
 
+enum class Links { Refused, Followed };
+
 /// Makes one folder that only the user may enter; a folder of the user's that is there already will do.
-bool makePrivateFolder(const Text& folder) {
+bool makePrivateFolder(const Text& folder, Links links = Links::Refused) {
   const Bytes path = core::toBytes(folder);
   struct stat status;
+  const auto look = [&] { return (links == Links::Followed ? ::stat : ::lstat)(path.c_str(), &status) == 0; };
   // It is there as a rule, and to look costs less than to try.
-  if (::lstat(path.c_str(), &status) != 0) {
+  if (!look()) {
     if (::mkdir(path.c_str(), 0700) == 0) return true;
-    if (errno != EEXIST || ::lstat(path.c_str(), &status) != 0) return false;
+    if (errno != EEXIST || !look()) return false;
   }
   return S_ISDIR(status.st_mode) && status.st_uid == ::getuid();
 }
@@ -142,15 +145,15 @@ DesktopTrash::Place DesktopTrash::placeFor(TextView folder, dev_t device, std::t
   if (!found_.volume.empty()) {
     if (auto place = volumePlace(found_.volume)) return *std::move(place);
   }
-  if (!makePrivateFolder(homeTrash_)) {
+  if (!makePrivateFolder(homeTrash_, Links::Followed)) {
     files_.makeFolder(Text(core::dropRight(paths::folderPart(homeTrash_), 1)));
-    if (!makePrivateFolder(homeTrash_)) throw FileError(FileError::permissionDenied);
+    if (!makePrivateFolder(homeTrash_, Links::Followed)) throw FileError(FileError::permissionDenied);
   }
   if (!makeInside(homeTrash_)) throw FileError(FileError::permissionDenied);
   return {homeTrash_, {}};
 }
 
-Text DesktopTrash::send(const Text& path) {
+Text DesktopTrash::send(const Text& path, const Announce& announce) {
   struct stat status;
   const Bytes native = nativePath(path);
   if (::lstat(native.c_str(), &status) != 0) throwErrno(native);
@@ -175,10 +178,14 @@ Text DesktopTrash::send(const Text& path) {
     try {
       file->writeAt(0, info);
       file.reset();
+      if (announce) announce(target);
       files_.move(path, target);
       return target;
     } catch (const FileError& error) {
       file.reset();
+      // A folder that went to another volume may lie here whole, with something left of it at its old place.
+      if (error.number != FileError::fileExists && ::lstat(core::toBytes(target).c_str(), &status) == 0)
+        throw;
       dropInfo(infoFile);
       // A file without an info file may lie there, from a program that was cut off.
       if (error.number != FileError::fileExists) throw;

@@ -12,7 +12,8 @@ namespace velmora::system {
 
 /// The desktop's trash by its published folder layout (freedesktop.org Trash specification 1.0): the home
 /// trash for files on the home volume, a per-volume trash for others; the info file is written first and
-/// exclusively. Where a volume lets us make no trash, its files are moved to the home trash.
+/// exclusively. The home trash may be a link to another folder of the user's. Where a volume lets us make no
+/// trash, its files are moved to the home trash.
 class DesktopTrash final : public platform::Trash {
  public:
   /// `homeTrash` is the full path of the home trash folder; see defaultHomeTrash.
@@ -20,7 +21,8 @@ class DesktopTrash final : public platform::Trash {
   /// $XDG_DATA_HOME/Trash, by default ~/.local/share/Trash.
   static Text defaultHomeTrash();
 
-  Text send(const Text& path) override;
+  using Trash::send;
+  Text send(const Text& path, const Announce& announce) override;
   void bringBack(const Text& trashPath, const Text& target) override;
 
  private:

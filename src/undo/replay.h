@@ -7,14 +7,14 @@
 #include "core/data_folder.h"
 #include "core/track_table.h"
 #include "journal/undo_journal.h"
+#include "journal/undo_record.h"
 #include "platform/files.h"
-#include "platform/trash.h"
 #include "rows/artist_book.h"
-#include "rows/file_mover.h"
-#include "rows/row_keeper.h"
 #include "ui/form1.h"
 #include "ui/progress.h"
+#include "undo/file_restorer.h"
 #include "undo/name_restorer.h"
+#include "undo/songs.h"
 #include "undo/tag_restorer.h"
 #include "undo/undo_errors.h"
 #include "undo/undo_outcome.h"
@@ -28,14 +28,12 @@ class Replay {
     core::TrackTable& table;
     core::DataFolder& data;
     platform::Files& files;
-    platform::Trash& trash;
-    platform::Dialogs& dialogs;
     journal::UndoJournal& journal;
     rows::ArtistBook& artists;
-    rows::RowKeeper& rows;
-    rows::FileMover& mover;
+    FileRestorer& fileRestorer;
     TagRestorer& tagRestorer;
     NameRestorer& nameRestorer;
+    Songs& songs;
     UndoErrors& errors;
     ui::Progress& progress;
     ui::Form1& form1;
@@ -55,7 +53,7 @@ class Replay {
 
   /// Takes back everything down to the newest record of `stopKind`, that one included, or to the journal's
   /// end, and saves the table. What was taken back leaves the journal, and so does what commands appended
-  /// meanwhile. Stop ends it at the next record. An error that the user does not go on from leaves the
+  /// meanwhile. Stop ends it behind the change at hand. An error that the user does not go on from leaves the
   /// journal as it was and the table unsaved.
   void replayUndo(std::string_view stopKind);
 
@@ -65,6 +63,10 @@ class Replay {
   static Inverse inverseOf(const journal::UndoRecord& record);
 
   std::uint64_t takeBack(std::string_view stopKind);
+  UndoOutcome takeBack(const journal::UndoRecord& record);
+  void tellWhereSongsAre(std::uint64_t left);
+  int rowOf(int number, const Text& path);
+  void catchUp();
   UndoOutcome undoRename(const Data& data);
   UndoOutcome undoTags(const Data& data);
   UndoOutcome undoDelete(const Data& data);
@@ -73,26 +75,15 @@ class Replay {
   UndoOutcome undoMadeFolder(const Data& data);
   UndoOutcome undoFolderMove(const Data& data);
   UndoOutcome undoOtherFile(const Data& data);
+  UndoOutcome learnPlace(const Data& data);
   UndoOutcome restoreSelection(const Data& data);
   UndoOutcome restoreWindows(const Data& data);
   UndoOutcome restoreFix(const Data& data);
   UndoOutcome restoreDup(const Data& data);
-  void sayNotInTrash(const Text& path);
-
-  /// Where the file of the last "del" or "mov" record came to lie: another name than its own when that was
-  /// taken, nowhere when it was passed over.
-  struct CameBack {
-    Text wanted;
-    Text got;
-  };
 
   Parts parts_;
-  bool undeleteFailed_ = false;
-  Text lastDeleted_;
-  CameBack cameBack_;
+  std::uint64_t at_ = 0;  // where the record at hand begins
+  bool caughtUp_ = false;
 };
-
-/// Deletes an empty folder; one that holds anything goes to the trash as it is. Throws FileError.
-void discardFolder(platform::Files& files, platform::Trash& trash, const Text& folder);
 
 }  // namespace velmora::undo

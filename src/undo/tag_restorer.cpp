@@ -87,15 +87,14 @@ bool fill(tags::cMP3ID3v2& tag, const core::Track& track) {
 }  // namespace
 
 UndoOutcome TagRestorer::restore(int row, const journal::RowSnapshot& before) {
-  if (!parts_.table.hasRow(row)) return UndoOutcome::Done;
   core::Track& track = parts_.table.track(row);
+  const Text path = track.nizdes.text();
   parts_.table.currentRow = row;  // the dialogs of a failure name its path
   // After a kill the columns know nothing of the file, and whatever tag it has is one that the write made.
   const bool askFile = before.procitan && !track.procitan.isTrue();
   const bool madeID3v1 = !before.imaid3v1 && (askFile || track.imaid3v1.isTrue());
   const bool madeID3v2 = !before.imaid3v2 && (askFile || track.imaid3v2.isTrue());
-  rows::fillFromSnapshot(track, before);
-  const Text path = before.path;
+  rows::fillTags(track, before);
   if (!parts_.files.fileExists(path)) return UndoOutcome::Done;
 
   const platform::FileHandOver handOver(parts_.player, path);
@@ -119,7 +118,7 @@ UndoOutcome TagRestorer::restore(int row, const journal::RowSnapshot& before) {
 /// it off again would cut into the music.
 bool TagRestorer::removeID3v1(const Text& path) {
   bool removed = false;
-  parts_.errors.attempt([&] {
+  parts_.errors.attempt(path, [&] {
     tags::cMP3ID3v1 tag(parts_.files);
     tag.setMP3File(path);
     if (tag.HasID3v1Tag()) tags::SkiniID3v1(parts_.files, parts_.desktop, parts_.player, path);
@@ -130,7 +129,7 @@ bool TagRestorer::removeID3v1(const Text& path) {
 
 bool TagRestorer::removeID3v2(const Text& path) {
   bool removed = false;
-  parts_.errors.attempt([&] {
+  parts_.errors.attempt(path, [&] {
     tags::SkiniID3v2(parts_.files, parts_.desktop, parts_.player, path);
     removed = true;
   });
@@ -140,7 +139,7 @@ bool TagRestorer::removeID3v2(const Text& path) {
 UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {
   const auto write = [&](auto& tag) {
     UpdateResult result = UpdateResult::Done;
-    parts_.errors.attempt([&] {
+    parts_.errors.attempt(path, [&] {
       tag.setMP3File(path);
       const bool differs = fill(tag, track);
       if (!genreIsBack(tag, track)) track.procitan = false;

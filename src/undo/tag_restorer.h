@@ -28,8 +28,8 @@ class TagRestorer {
   };
   explicit TagRestorer(const Parts& parts) : parts_(parts) {}
 
-  /// A tag that the write made goes; one that has other values now is written. A file that is not there any
-  /// more is passed over: its columns alone go back.
+  /// A tag that the write made goes; one that has other values now is written. The song is that of the row,
+  /// under whatever name it bears now; where its file is not there any more, its columns alone go back.
   UndoOutcome restore(int row, const journal::RowSnapshot& before);
 
  private:

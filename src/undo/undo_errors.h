@@ -26,6 +26,26 @@ class UndoErrors {
       report(error.number, error.description);
     }
   }
+  /// The same for a step on one file, which the user may try again: a step that is tried again passes over
+  /// what it did before.
+  void attempt(const Text& path, const std::function<void()>& step) {
+    for (;;) {
+      try {
+        return step();
+      } catch (const platform::FileError& error) {
+        const Text text = u"Error #" + core::plain(std::int64_t{error.number}) + u" while undoing { " + path +
+                          u" } occurred: " + error.description;
+        switch (dialogs_.failure(text, u"Undo", false).answer) {
+          case platform::Answer::Retry:
+            break;
+          case platform::Answer::Abort:
+            throw UndoCancelled();
+          default:
+            return;
+        }
+      }
+    }
+  }
   /// Shows an error; throws UndoCancelled when the user does not go on.
   void report(int number, const Text& description) {
     const auto answer =

@@ -1,5 +1,6 @@
 // The program is killed at random moments of its commands, and started again on what that left behind.
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -67,22 +68,17 @@ class Victim : public test::RepairHouse {
     growTags();
     fixSyntax();
   }
+  void deleteAll() {
+    selectAll();
+    form1().List4.onKey({ui::Key::Delete, true});
+  }
 
-  /// Names of the songs on the disk by their numbers, less the copies that a kill left behind.
+  /// Names of the songs on the disk and in the trash by their numbers, less the copies that a kill left
+  /// behind.
   Places places() {
     Places found;
-    const Text folder = program.folder.path(u"music/in");
-    for (const auto& entry : program.files.list(folder).entries) {
-      if (!entry.name.ends_with(u".mp3") || entry.name.ends_with(u".mp3.mp3")) continue;
-      const std::string name = core::toBytes(core::dropRight(entry.name, 4));
-      const Bytes bytes = program.files.readAll(folder + u'/' + entry.name);
-      const std::size_t at = bytes.find(music_);
-      EXPECT_NE(at, Bytes::npos) << "a song without its music: " << name;
-      if (at == Bytes::npos) continue;
-      auto& names = found[bytes.substr(at + music_.size(), 3)];
-      EXPECT_TRUE(names.empty()) << *names.begin() << " is also there as " << name;
-      names.insert(name);
-    }
+    for (const TextView folder : {u"music/in", u"trash/files"})
+      if (program.folder.exists(folder)) addPlaces(program.folder.path(folder), found);
     return found;
   }
   /// The texts of all tags as another program would read them, by the numbers of the songs.
@@ -91,12 +87,48 @@ class Victim : public test::RepairHouse {
     for (const auto& [number, names] : places()) tags[number] = tagsOf(core::fromBytes(*names.begin()));
     return tags;
   }
+  /// Another file under each name of before that no song bears now.
+  void putStrangers() {
+    for (const auto& [number, names] : placesBefore) {
+      const Text name = u"music/in/" + core::fromBytes(*names.begin()) + u".mp3";
+      if (program.folder.exists(name)) continue;
+      program.folder.write(name, stranger_);
+      strangers_.push_back(name);
+    }
+  }
+  void expectStrangersAlone() {
+    for (const Text& name : strangers_) EXPECT_EQ(program.folder.read(name), stranger_);
+  }
+  void expectAllListed() {
+    test::Names names;
+    for (const auto& [number, where] : places()) names.push_back(*where.begin());
+    std::ranges::sort(names);
+    EXPECT_EQ(listed(), names);
+  }
 
   Places placesBefore;
   std::map<Bytes, std::string> tagsBefore;
 
  private:
+  void addPlaces(const Text& folder, Places& found) {
+    for (const auto& entry : program.files.list(folder).entries) {
+      if (!entry.name.ends_with(u".mp3") || entry.name.ends_with(u".mp3.mp3")) continue;
+      const std::string name =
+          (folder.ends_with(u"/in") ? "" : "trash/") + core::toBytes(core::dropRight(entry.name, 4));
+      const Bytes bytes = program.files.readAll(folder + u'/' + entry.name);
+      if (bytes == stranger_) continue;
+      const std::size_t at = bytes.find(music_);
+      EXPECT_NE(at, Bytes::npos) << "a song without its music: " << name;
+      if (at == Bytes::npos) continue;
+      auto& names = found[bytes.substr(at + music_.size(), 3)];
+      EXPECT_TRUE(names.empty()) << *names.begin() << " is also there as " << name;
+      names.insert(name);
+    }
+  }
+
   const Bytes music_ = test::mpegFrames(600) + "the end of song ";
+  const Bytes stranger_ = test::mpegFrames(2) + test::id3v1Tag({.title = u"better"});
+  std::vector<Text> strangers_;
 };
 
 /// New music on another volume than the base.
@@ -178,9 +210,10 @@ struct Torment : testing::Test {
       const microseconds delay(random() % static_cast<unsigned>(lifetime.count()));
       SCOPED_TRACE("kill " + std::to_string(i) + " at operation " + std::to_string(operation) + " or after " +
                    std::to_string(delay.count()) + " us");
-      if (i % 2 == 0) killAhead(victim, operation);
+      watch(victim, i % 2 == 0 ? std::optional(operation) : std::nullopt);
       cutShort += runAndKill(victim, command, i % 2 == 0 ? std::nullopt : std::optional(delay));
       victim.program.faults.onOperation = nullptr;
+      if (powerCut) cutJournal(victim);
       expectWhole(victim.places(), atStart);
       victim.program.forget();
       victim.startAgain();
@@ -190,6 +223,7 @@ struct Torment : testing::Test {
   }
 
   Places after_;  // of the command
+  bool powerCut = false;
 
  private:
   /// What the command makes of the places, how many operations that takes, and how long.
@@ -203,10 +237,24 @@ struct Torment : testing::Test {
     after_ = victim.places();
     return {static_cast<unsigned>(victim.program.faults.operations() - first), length};
   }
-  static void killAhead(Program& victim, unsigned operation) {
-    victim.program.faults.onOperation = [left = operation]() mutable {
-      if (left-- == 0) ::raise(SIGKILL);
+  /// Kills ahead of an operation, if one is given, and notes how much of the journal a power cut would leave.
+  static void watch(Program& victim, std::optional<unsigned> operation) {
+    test::FaultFiles& faults = victim.program.faults;
+    faults.onOperation = [&victim, &faults, operation, count = 0u]() mutable {
+      if (operation && count++ == *operation) ::raise(SIGKILL);
+      const std::string& line = faults.log.back();
+      if (!line.starts_with("file flush") || !line.ends_with("UndoData.txt")) return;
+      const auto bytes = victim.program.folder.read(u"program/UndoData.txt").size();
+      victim.program.folder.write(u"synced", std::to_string(bytes));
     };
+    victim.program.folder.write(u"synced", "");
+  }
+  /// The power was cut as well: what was not brought to the disk is gone.
+  static void cutJournal(Program& victim) {
+    const Bytes synced = victim.program.folder.read(u"synced");
+    const Text path = victim.program.folder.path(u"program/UndoData.txt");
+    if (!synced.empty() && victim.program.files.fileExists(path))
+      victim.program.files.open(path, platform::OpenMode::ReadWrite)->cutTo(std::stoul(synced));
   }
   static void prepare(Program& victim, Step before) {
     victim.start();
@@ -256,9 +304,46 @@ TEST_F(Kill, UndoIsBroughtToItsEndByTheNextOne) {
     victim.undoAll();
     EXPECT_EQ(victim.places(), victim.placesBefore);
     EXPECT_EQ(victim.tags(), victim.tagsBefore);
-    test::Names names;
-    for (const auto& [number, where] : victim.places()) names.push_back(*where.begin());
-    EXPECT_EQ(victim.listed(), names);
+    victim.expectAllListed();
+  });
+}
+
+TEST_F(Kill, ADeleteLeavesEachSongInTheListOrInTheTrashWithItsRecord) {
+  torment(nullptr, &Victim::deleteAll, 8, [](Victim& victim) {
+    victim.undoAll();
+    EXPECT_EQ(victim.places(), victim.placesBefore);
+    victim.expectAllListed();
+  });
+}
+
+TEST_F(Kill, StrangersUnderOldNamesAreLeftAloneAndTheSongsAreFound) {
+  torment(&Victim::growTags, &Victim::fixSyntax, 8, [](Victim& victim) {
+    victim.putStrangers();
+    victim.program.dialogs.otherwise = [](platform::Buttons buttons) {
+      return buttons == platform::Buttons::AbortRetryIgnore ? platform::Answer::Ignore : platform::Answer::Ok;
+    };
+    victim.undoAll();
+    victim.expectStrangersAlone();
+    victim.expectAllListed();
+    EXPECT_LE(differences(victim.tagsBefore, victim.tags()), 1);
+  });
+}
+
+TEST_F(Kill, APowerCutTakesSongsNowhereTheyWereNotSent) {
+  powerCut = true;
+  torment(nullptr, &Victim::fixSyntax, 6, [this](Victim& victim) {
+    const Places left = victim.places();
+    victim.undoAll();
+    for (const auto& [song, names] : victim.places())
+      EXPECT_TRUE(names == left.at(song) || names == victim.placesBefore.at(song)) << *names.begin();
+  });
+  torment(nullptr, &Victim::deleteAll, 6, [](Victim& victim) {
+    victim.undoAll();
+    // A song whose record is lost lies in the trash with its info file, where the desktop shows it.
+    for (const auto& [song, names] : victim.places())
+      EXPECT_TRUE(names == victim.placesBefore.at(song) ||
+                  victim.program.folder.exists(u"trash/info/" + core::fromBytes(names.begin()->substr(6)) +
+                                               u".mp3.trashinfo"));
   });
 }
 
@@ -274,6 +359,14 @@ void expectBack(BaseVictim& victim) {
 }
 
 TEST_F(BaseKill, AMoveAcrossVolumesLosesNoSongAndIsTakenBack) {
+  torment(nullptr, &BaseVictim::moveGenres, 6, [](BaseVictim& victim) {
+    victim.undoAll();
+    expectBack(victim);
+  });
+}
+
+TEST_F(BaseKill, APowerCutInAMoveAcrossVolumesCostsNoRecordOfAFileThatWent) {
+  powerCut = true;
   torment(nullptr, &BaseVictim::moveGenres, 6, [](BaseVictim& victim) {
     victim.undoAll();
     expectBack(victim);

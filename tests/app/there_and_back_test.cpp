@@ -1,8 +1,12 @@
 // A long walk of random commands, and the whole way back.
 
+#include <map>
 #include <set>
 
+#include "core/paths.h"
 #include "core/text.h"
+#include "journal/undo_journal.h"
+#include "journal/undo_record.h"
 #include "tests/support/repair_bench.h"
 #include "tests/support/walk.h"
 
@@ -132,6 +136,31 @@ class ThereAndBack : public test::RepairBench, public testing::WithParamInterfac
     return all;
   }
 
+  /// Another file under each name that a song had before and that is free, and under that of each second song
+  /// that lies in the trash.
+  std::map<Text, Bytes> putStrangers() {
+    std::map<Text, Bytes> strangers;
+    const journal::UndoJournal journal(program.files, program.settings,
+                                       program.folder.path(u"program/UndoData.txt"));
+    for (const Text& line : journal.readRecords()) {
+      const journal::UndoRecord record = journal::parseUndoRecord(line);
+      if (!record.data) continue;
+      Text path;
+      if (const auto renamed = journal::parseRenamePayload(record.data->rest);
+          record.kind == u"ren" && renamed)
+        path = renamed->path;
+      if (const auto deleted = journal::parseDeletedFile(record.data->first);
+          record.kind == u"del" && deleted)
+        path = deleted->path;
+      if (path.empty() || program.files.fileExists(path) || random(2) == 0) continue;
+      const Bytes bytes = test::Id3v2Maker().values({.title = u"better"}).padding(9).bytes() +
+                          test::mpegFrames(3) + test::id3v1Tag({.title = u"better"});
+      program.files.create(path)->writeAt(0, bytes);
+      strangers.emplace(path, bytes);
+    }
+    return strangers;
+  }
+
   test::Dice random{GetParam()};
 };
 
@@ -162,6 +191,35 @@ TEST_P(ThereAndBack, EveryStepOfALongWalkIsTakenBack) {
   EXPECT_EQ(program.table().velicinasfiles, bytesBefore);
   program.restart();
   EXPECT_EQ(rows(), before) << "and so after a new start";
+}
+
+TEST_P(ThereAndBack, StrangersUnderOldNamesAreLeftAloneAndEverySongIsFound) {
+  constexpr int fewSteps = 400;
+  makeCollection();
+  std::multiset<std::string> tagsBefore;
+  for (const std::string& name : names()) tagsBefore.insert(tagsOf(core::fromBytes(name)));
+  for (int i = 0; i < fewSteps; ++i) step();
+  const auto strangers = putStrangers();
+  ASSERT_GT(strangers.size(), 10u);
+
+  program.dialogs.otherwise = [](platform::Buttons buttons) {
+    return buttons == platform::Buttons::AbortRetryIgnore ? platform::Answer::Ignore : platform::Answer::Ok;
+  };
+  for (int i = 0; tools().undoLastOperation.enabled(); ++i) {
+    tools().undoLastOperation.click();
+    if (i % 50 == 0) program.restart();
+  }
+  for (const auto& [path, bytes] : strangers) EXPECT_EQ(program.files.readAll(path), bytes);
+  std::set<Text> listed;
+  std::multiset<std::string> tags;
+  for (int row = 1; row <= program.table().brojfajlova(); ++row) {
+    const Text& path = program.table().path(row);
+    EXPECT_TRUE(program.files.fileExists(path)) << core::toBytes(path);
+    EXPECT_FALSE(strangers.contains(path)) << core::toBytes(path);
+    EXPECT_TRUE(listed.insert(path).second) << core::toBytes(path);
+    tags.insert(tagsOf(core::paths::bareName(path)));
+  }
+  EXPECT_EQ(tags, tagsBefore);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, ThereAndBack, testing::ValuesIn(test::walkSeeds(2)));

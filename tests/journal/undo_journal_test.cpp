@@ -158,6 +158,19 @@ TEST_F(UndoJournalTest, TheMarkerIsFoundBehindAnyLengthOfRecords) {
   EXPECT_EQ(opened().readRecords().size(), 901u);
 }
 
+TEST_F(UndoJournalTest, ARecordMayBeginAtTheBorderOfABlock) {
+  constexpr std::size_t block = 65536;
+  for (std::size_t length = block - 3; length <= block + 3; ++length) {
+    write("\"st1\"\r\n\"" + Bytes(length - 4, 'x') + "\"\r\n");
+    std::vector<std::uint64_t> begins;
+    journal.visitFromNewest([&](const Text&, std::uint64_t offset) {
+      begins.push_back(offset);
+      return true;
+    });
+    EXPECT_EQ(begins, (std::vector<std::uint64_t>{7, 0})) << length;
+  }
+}
+
 TEST_F(UndoJournalTest, ATornTailIsDroppedAndSwallowsNoLaterRecord) {
   journal.appendUndoMarker("st1");
   journal.appendUndoRecord("mov", u"/a", u"/b");

@@ -83,14 +83,30 @@ TEST(UndoRecord, RenamePayloadComesBack) {
 }
 
 TEST(UndoRecord, DeletedFileComesBack) {
-  const Text text = deletedFile(4711, u"/music/a.mp3");
-  EXPECT_EQ(text, u"005 4711012/music/a.mp3");
+  const Text old = u"005 4711012/music/a.mp3";
+  ASSERT_TRUE(parseDeletedFile(old)) << "of an older version";
+  const Text text = deletedFile(4711, u"/music/a.mp3", u"7.5");
+  EXPECT_EQ(text, old + u"0037.5");
   const auto parsed = parseDeletedFile(text);
   ASSERT_TRUE(parsed);
   EXPECT_EQ(parsed->size, 4711U);
   EXPECT_EQ(parsed->path, u"/music/a.mp3");
   for (const TextView bad : {u"", u"005 4711", u"003abc012/music/a.mp3", u"005 4711000"})
     EXPECT_FALSE(parseDeletedFile(bad));
+}
+
+TEST(UndoRecord, MovedFileComesBack) {
+  const auto parsed = parseMovedFile(movedFile(u"/base/a.mp3", u"7.5", 12));
+  ASSERT_TRUE(parsed);
+  EXPECT_EQ(parsed->path, u"/base/a.mp3");
+  EXPECT_EQ(parsed->identity, u"7.5");
+  EXPECT_EQ(parsed->size, 12u);
+  const auto old = parseMovedFile(u"/base/a 1.mp3");
+  ASSERT_TRUE(old);
+  EXPECT_EQ(old->path, u"/base/a 1.mp3");
+  EXPECT_FALSE(old->size);
+  for (const TextView bad : {u"", u"003/ab", u"003/ab000", u"#1:/000003 12x"})
+    EXPECT_FALSE(parseMovedFile(bad));
 }
 
 TEST(UndoRecord, RowSnapshotComesBack) {

@@ -85,10 +85,31 @@ TEST_F(DeleteFilesTest, AFileThatCannotGoKeepsItsRow) {
       program.faults.failAt(1, platform::FileError::permissionDenied);
     }
   };
+  program.dialogs.expect(u"1 file was not deleted: Permission denied.\n\n" + pathOf(u"b"), u"Delete",
+                         platform::Answer::Ok);
   pressDelete(true);
   EXPECT_EQ(names(), (Names{"b"}));
   EXPECT_EQ(listed(), (Names{"b"}));
   EXPECT_EQ(kinds(), (Names{"st1", "bi1", "izb", "del"}));
+}
+
+TEST_F(DeleteFilesTest, StopEndsBothDeletionsBetweenTwoFiles) {
+  program.song(u"in/1.txt");
+  program.song(u"in/2.txt");
+  add({{u"a"}, {u"b"}});
+  const auto deleteAllAndStop = [this] {
+    selectAll();
+    program.faults.onOperation = [this] {
+      if (program.faults.log.back().starts_with("move ")) program.table().Stop = true;
+    };
+    pressDelete(true);
+  };
+  deleteAllAndStop();
+  EXPECT_EQ(listed().size(), 1u);
+  form1().ostali.click();
+  deleteAllAndStop();
+  EXPECT_EQ(form1().List4.ListCount(), 1);
+  EXPECT_EQ(names().size(), 2u);
 }
 
 TEST_F(DeleteFilesTest, ARowWhoseFileIsGoneAlreadyGoesWithoutARecordOfTheTrash) {

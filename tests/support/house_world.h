@@ -19,10 +19,11 @@ namespace velmora::test {
 struct FolderTrash final : platform::Trash {
   FolderTrash(platform::Files& realFiles, const TempFolder& tempFolder)
       : files(realFiles), folder(tempFolder) {}
-  Text send(const Text& path) override {
+  Text send(const Text& path, const Announce& announce) override {
     if (path == refused) throw platform::FileError(platform::FileError::permissionDenied);
     folder.mkdir(u"trash");
     Text there = folder.path(u"trash/" + core::plain(std::int64_t(sent.size())));
+    if (announce) announce(there);
     files.move(path, there);
     sent.push_back(path);
     return there;

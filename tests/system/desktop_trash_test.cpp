@@ -136,6 +136,30 @@ TEST_F(TrashTest, AFailureAnywhereLosesNothing) {
   }
 }
 
+TEST_F(TrashTest, TheHomeTrashMayBeALinkToAFolderOfTheUsers) {
+  home.mkdir(u"elsewhere");
+  ASSERT_EQ(::symlink("elsewhere", home.native(u"Trash").c_str()), 0);
+  const Text there = trash.send(music.write(u"song.mp3", "song"));
+  EXPECT_EQ(home.read(u"elsewhere/files/song.mp3"), "song");
+  EXPECT_TRUE(home.exists(u"elsewhere/info/song.mp3.trashinfo"));
+  trash.bringBack(there, music.path(u"song.mp3"));
+  EXPECT_EQ(music.read(u"song.mp3"), "song");
+}
+
+TEST_F(TrashTest, TheNameInTheTrashIsToldAheadOfTheMove) {
+  const Text song = music.write(u"song.mp3", "song");
+  home.write(u"Trash/files/song.mp3", "without an info file");
+  std::vector<Text> told;
+  const Text there = trash.send(song, [&](const Text& path) {
+    told.push_back(path);
+    EXPECT_TRUE(real.fileExists(song));
+  });
+  EXPECT_EQ(told, (std::vector<Text>{home.path(u"Trash/files/song.mp3"), there}));
+  EXPECT_THROW(trash.send(music.write(u"b", ""), [](const Text&) { throw FileError(FileError::diskFull); }),
+               FileError);
+  EXPECT_FALSE(home.exists(u"Trash/info/b.trashinfo"));
+}
+
 struct VolumeTrashTest : TrashTest {
   void SetUp() override { files.pretendVolume(volume.path()); }
 
@@ -179,6 +203,14 @@ TEST_F(TrashTest, AVolumeThatTakesNoTrashIsServedByTheHomeTrash) {
   EXPECT_EQ(home.read(u"Trash/files/song.mp3"), "song");
   trash.bringBack(there, song);
   EXPECT_EQ(other.folder().read(u"song.mp3"), "song");
+  // A folder whose files are copied, but that cannot be taken away whole, lies in the trash as it should.
+  other.folder().write(u"album/1.mp3", "song");
+  ASSERT_EQ(::chmod(other.folder().native(u"album").c_str(), 0500), 0);
+  if (errorNumber([&] { trash.send(other.path(u"album")); }) != 0) {
+    EXPECT_EQ(home.read(u"Trash/files/album/1.mp3"), "song");
+    EXPECT_TRUE(home.exists(u"Trash/info/album.trashinfo"));
+  }
+  ::chmod(other.folder().native(u"album").c_str(), 0700);
 }
 
 }  // namespace

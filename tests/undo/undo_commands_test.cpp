@@ -150,7 +150,8 @@ TEST_F(UndoTest, AFileRenamedByAnotherProgramAsksAndAbortDropsItsRecordAlone) {
       u"Error while renaming file " + path + u" #53 occurred: File not found      Wath i do ?", u"Rename",
       platform::Answer::Abort);
   undo();
-  EXPECT_EQ(journal(), st1 + renamed(u"x", u"y"));
+  EXPECT_EQ(journal(), st1 + renamed(u"x", u"y") + line(u"now", pathOf(u"a"), path))
+      << "older records still find it";
   EXPECT_TRUE(tools().undoLastOperation.enabled());
   EXPECT_EQ(program.table().path(1), path);
 }
@@ -165,7 +166,7 @@ TEST_F(UndoTest, AMovedFileGoesBackAndItsFolderIsMade) {
   EXPECT_FALSE(program.files.fileExists(now));
 }
 
-TEST_F(UndoTest, AMadeFolderGoesWhenEmptyAndElseToTheTrash) {
+TEST_F(UndoTest, AMadeFolderGoesWhenItIsEmptyAndElseStays) {
   add({{u"keep"}});
   const Text empty = program.folder.mkdir(u"base/Empty");
   program.folder.write(u"base/Full/song.mp3", "music");
@@ -173,16 +174,12 @@ TEST_F(UndoTest, AMadeFolderGoesWhenEmptyAndElseToTheTrash) {
         line(u"mkd", u"/nowhere/at/all", u""));
   undo();
   EXPECT_FALSE(program.folder.exists(u"base/Empty"));
-  EXPECT_FALSE(program.folder.exists(u"base/Full"));
-  EXPECT_EQ(program.folder.read(u"trash/files/Full/song.mp3"), "music");
+  EXPECT_EQ(program.folder.read(u"base/Full/song.mp3"), "music");
 }
 
 TEST_F(UndoTest, AnUnexpectedErrorAsksWhetherToGoOn) {
   add({{u"b"}});
-  const Text inTheWay = program.song(u"wall");
-  const Bytes blocked =
-      line(u"mov", program.folder.path(u"music/wall/song.mp3"), program.song(u"base/song.mp3"));
-  const Bytes whole = st1 + renamed(u"a", u"b") + blocked;
+  const Bytes whole = st1 + renamed(u"a", u"b") + line(u"bi1", u" 99:::::", u"");
   write(whole);
   program.dialogs.expectTitle(u"Undo", platform::Answer::Cancel);
   undo();
@@ -195,7 +192,35 @@ TEST_F(UndoTest, AnUnexpectedErrorAsksWhetherToGoOn) {
   undo();
   EXPECT_EQ(names(), (Names{"a"}));
   EXPECT_EQ(journal(), "");
-  EXPECT_TRUE(program.files.fileExists(inTheWay));
+}
+
+TEST_F(UndoTest, AnErrorNamesItsFileAndCanBeTriedAgain) {
+  add({{u"keep"}});
+  const Text wall = program.song(u"wall");
+  const Text now = program.song(u"base/song.mp3");
+  write(st1 + line(u"mov", program.folder.path(u"music/wall/song.mp3"), now));
+  program.dialogs.expectTitle(u"Move File", platform::Answer::Retry);
+  program.dialogs.expectTitle(u"Move File", platform::Answer::Ignore);
+  undo();
+  EXPECT_NE(program.dialogs.shown.back().find(now), Text::npos);
+  EXPECT_TRUE(program.files.fileExists(wall));
+  EXPECT_TRUE(program.files.fileExists(now));
+
+  const Text made = program.folder.mkdir(u"base/made");
+  write(st1 + line(u"mkd", made, u""));
+  program.faults.onOperation = [&] {
+    if (program.faults.log.back().starts_with("removeEmptyFolder"))
+      program.faults.failAt(1, platform::FileError::deviceError);
+  };
+  program.dialogs.expect(u"Error #57 while undoing { " + made + u" } occurred: Device I/O error", u"Undo",
+                         platform::Answer::Retry);
+  const auto once = [&](platform::Buttons) {
+    program.faults.onOperation = nullptr;
+    return platform::Answer::Retry;
+  };
+  program.dialogs.otherwise = once;
+  undo();
+  EXPECT_FALSE(program.folder.exists(u"base/made"));
 }
 
 TEST_F(UndoTest, RecordsOfWindowsThatAreNotThereDoNothing) {
