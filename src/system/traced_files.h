@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "platform/files.h"
 #include "platform/trace.h"
 
@@ -16,6 +19,7 @@ class TracedFiles final : public platform::Files {
   bool fileExists(const Text& path) override;
   bool folderExists(const Text& path) override;
   std::uint64_t size(const Text& path) override;
+  platform::FileStamp stamp(const Text& path) override;
   std::unique_ptr<platform::OpenFile> open(const Text& path, platform::OpenMode mode) override;
   std::unique_ptr<platform::OpenFile> create(const Text& path) override;
   Bytes readAll(const Text& path) override;
@@ -28,6 +32,8 @@ class TracedFiles final : public platform::Files {
   void remove(const Text& path) override;
   void removeEmptyFolder(const Text& path) override;
   void clearAttributes(const Text& path) override;
+  Text identity(const Text& path) override { return files_.identity(path); }
+  void beforeRemoval(std::function<void()> call) override { files_.beforeRemoval(std::move(call)); }
   bool busy(const Text& path) override;
   Text volumeOf(const Text& path) override;
   std::uint64_t freeBytes(const Text& path) override;

@@ -9,7 +9,6 @@
 #include "tags/genre.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
-#include "tags/tag_removal.h"
 #include "tags/update_result.h"
 
 namespace velmora::undo {
@@ -115,26 +114,21 @@ UndoOutcome TagRestorer::restore(int row, const journal::RowSnapshot& before) {
   return outcome;
 }
 
-/// The file is asked, not the column: after a crash that may speak of a tag that is gone already, and cutting
-/// it off again would cut into the music.
+/// The file is asked, not the column: after a crash that may speak of a tag that is gone already.
 bool TagRestorer::removeID3v1(const Text& path) {
   bool removed = false;
-  parts_.errors.attempt([&] {
-    tags::cMP3ID3v1 tag(parts_.files);
-    tag.setMP3File(path);
-    if (tag.HasID3v1Tag()) tags::SkiniID3v1(parts_.files, parts_.desktop, parts_.player, path);
-    removed = true;
-  });
+  parts_.errors.attempt([&] { removed = tags::SkiniID3v1(removalParts(), path); });
   return removed;
 }
 
 bool TagRestorer::removeID3v2(const Text& path) {
   bool removed = false;
-  parts_.errors.attempt([&] {
-    tags::SkiniID3v2(parts_.files, parts_.desktop, parts_.player, path);
-    removed = true;
-  });
+  parts_.errors.attempt([&] { removed = tags::SkiniID3v2(removalParts(), path); });
   return removed;
+}
+
+tags::RemovalParts TagRestorer::removalParts() const {
+  return {parts_.files, parts_.desktop, parts_.player, parts_.busyFile};
 }
 
 UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {
