@@ -1,4 +1,5 @@
 #include "fuzz/target.h"
+#include "tags/id3v2_place.h"
 #include "tags/mp3_header.h"
 #include "tests/support/memory_file.h"
 
@@ -13,6 +14,7 @@ VELMORA_FUZZ_TARGET(mp3_header) {
   tags::clsMP3HeadReader header;
   header.read(song);
 
+  require(tagEnd <= bytes.size(), "the tag ends within the file");
   const auto frame = tagEnd < bytes.size() ? bytes.find('\xFF', tagEnd) : BytesView::npos;
   const bool whole = frame != BytesView::npos && bytes.size() - frame >= 4;
   require(header.MPEG.empty() != whole, "a header is read exactly where one stands");

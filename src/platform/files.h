@@ -37,6 +37,16 @@ struct FolderListing {
   std::vector<FolderEntry> entries;
 };
 
+/// Tells whether a path still leads to the same file with the same content: which file it is, its length, and
+/// when it was last written, in nanoseconds.
+struct FileStamp {
+  std::uint64_t device = 0;
+  std::uint64_t node = 0;
+  std::uint64_t bytes = 0;
+  std::int64_t written = 0;
+  bool operator==(const FileStamp&) const = default;
+};
+
 /// One open file; destruction closes it. All operations throw FileError.
 class OpenFile {
  public:
@@ -47,13 +57,14 @@ class OpenFile {
   virtual std::size_t readAt(std::uint64_t offset, std::span<char> into) = 0;
   /// Writes all of `bytes` at `offset`, growing the file where needed.
   virtual void writeAt(std::uint64_t offset, BytesView bytes) = 0;
-  /// Takes the file's end away, so that `bytes` are left; never makes it longer. For files of the program's
-  /// own.
+  /// Takes the file's end away, so that `bytes` are left; never makes it longer. Of a song, only a tag that
+  /// stands there.
   virtual void cutTo(std::uint64_t bytes) = 0;
   /// Brings what was written to the disk.
   virtual void flush() = 0;
   /// Keeps other programs off the file until it is closed. False when one of them holds it. Never throws.
   virtual bool lockAlone() { return true; }
+  virtual FileStamp stamp() { return {}; }
 };
 
 enum class OpenMode { Read, ReadWrite };
@@ -71,6 +82,8 @@ class Files {
   virtual bool folderExists(const Text& path) = 0;
   /// Length of a file in bytes.
   virtual std::uint64_t size(const Text& path) = 0;
+  /// That of the open file that this path leads to.
+  virtual FileStamp stamp(const Text& /*path*/) { return {}; }
 
   /// Opens a regular file that exists; a pipe or device is refused unopened with pathAccess.
   virtual std::unique_ptr<OpenFile> open(const Text& path, OpenMode mode) = 0;
@@ -91,8 +104,9 @@ class Files {
   virtual void move(const Text& from, const Text& to) = 0;
   /// The same for a folder with all it holds, within a volume or across.
   virtual void moveFolder(const Text& from, const Text& to) = 0;
-  /// Brings the finished file `from` to the disk and puts it in the place of `to` in one step, with the mode
-  /// and owner of `to`; both lie in one folder. A link `to` is followed: its target is what gets replaced.
+  /// Brings the finished file `from` to the disk and puts it in the place of `to` in one step, with the mode,
+  /// owner and extended attributes of `to`; both lie in one folder. A link `to` is followed: its target is
+  /// what gets replaced.
   virtual void replace(const Text& from, const Text& to) = 0;
   /// Deletes a file of the program's own. Songs go to the Trash instead.
   virtual void remove(const Text& path) = 0;

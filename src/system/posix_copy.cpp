@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <memory>
 #include <string>
+#include <sys/xattr.h>
 #include <vector>
 
 #include "platform/file_error.h"
@@ -85,6 +86,7 @@ void copyFile(const Bytes& from, const Bytes& to) {
   if (!same) throw FileError(FileError::deviceError);
 
   takeModeAndOwner(target.get(), before);
+  takeAttributes(target.get(), source.get());
   takeTimes(target.get(), before);
   if (untilDone([&] { return ::fsync(target.get()); }) != 0) throwErrno(to);
   if (const int code = target.close()) throwFileError(code, to);
@@ -163,6 +165,23 @@ void removeCopied(const Bytes& source, const Bytes& copy) {
   }
   for (const Bytes& name : namesIn(copy)) removeCopied(inside(source, name), inside(copy, name));
   if (::rmdir(source.c_str()) != 0) throwErrno(source);
+}
+
+void takeAttributes(int descriptor, int like) {
+  const ssize_t length = ::flistxattr(like, nullptr, 0);
+  if (length <= 0) return;
+  Bytes names(static_cast<std::size_t>(length), '\0');
+  const ssize_t listed = ::flistxattr(like, names.data(), names.size());
+  if (listed <= 0) return;
+  names.resize(static_cast<std::size_t>(listed));
+  for (std::size_t at = 0; at < names.size(); at = names.find('\0', at) + 1) {
+    const char* name = names.c_str() + at;
+    const ssize_t size = ::fgetxattr(like, name, nullptr, 0);
+    if (size < 0) continue;
+    Bytes value(static_cast<std::size_t>(size), '\0');
+    const ssize_t got = ::fgetxattr(like, name, value.data(), value.size());
+    if (got >= 0) ::fsetxattr(descriptor, name, value.data(), static_cast<std::size_t>(got), 0);
+  }
 }
 
 void takeModeAndOwner(int descriptor, const struct stat& like) {

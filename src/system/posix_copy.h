@@ -26,9 +26,9 @@ class UnfinishedCopy {
   Bytes path_;
 };
 
-/// Copies a file, a link or a folder with all it holds to the free name `to`, with times and mode, checks the
-/// sizes and brings the content to the disk. A pipe, socket or device cannot be copied. Throws FileError and
-/// may then leave a part at `to`.
+/// Copies a file, a link or a folder with all it holds to the free name `to`, with times, mode and extended
+/// attributes, checks the sizes and brings the content to the disk. A pipe, socket or device cannot be
+/// copied. Throws FileError and may then leave a part at `to`.
 void copyEntry(const Bytes& from, const Bytes& to);
 
 /// What a symbolic link tells to lead to; empty for anything else.
@@ -37,6 +37,10 @@ Bytes linkText(const Bytes& path);
 /// Removes a tree that copyEntry has copied to `copy`: just the entries that the copy has as well, so that
 /// what another program has added meanwhile stays. Throws FileError.
 void removeCopied(const Bytes& source, const Bytes& copy);
+
+/// Gives an open file the extended attributes of another, access lists among them, as far as the system lets
+/// us: a disk without them is no reason to fail.
+void takeAttributes(int descriptor, int like);
 
 /// Gives an open file the mode and, as far as the system lets us, the owner of another.
 void takeModeAndOwner(int descriptor, const struct stat& like);

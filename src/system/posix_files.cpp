@@ -168,6 +168,10 @@ std::uint64_t PosixFiles::size(const Text& path) {
   return static_cast<std::uint64_t>(status.st_size);
 }
 
+platform::FileStamp PosixFiles::stamp(const Text& path) {
+  return stampOf(statusOf(nativePath(path)));
+}
+
 std::unique_ptr<platform::OpenFile> PosixFiles::open(const Text& path, platform::OpenMode mode) {
   Bytes native = nativePath(path);
   Descriptor file = openRegular(native, mode == platform::OpenMode::Read ? O_RDONLY : O_RDWR);

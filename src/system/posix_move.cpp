@@ -200,6 +200,9 @@ void replaceFile(const Bytes& from, const Bytes& to) {
     if (readOnly || ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
       throw FileError(FileError::permissionDenied);
     takeModeAndOwner(finished.get(), old);
+    const Descriptor song(
+        untilDone([&] { return ::open(target.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
+    if (song.valid()) takeAttributes(finished.get(), song.get());
   }
   if (untilDone([&] { return ::fsync(finished.get()); }) != 0) throwErrno(from);
   if (::rename(from.c_str(), target.c_str()) == 0) return;

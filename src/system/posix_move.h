@@ -13,7 +13,8 @@ namespace velmora::system {
 /// before the source goes.
 void moveEntry(const Bytes& from, const Bytes& to, const std::function<void()>& beforeRemoval = {});
 
-/// Puts `from` in the place of the file that `to` is or leads to, with that file's mode and owner.
+/// Puts `from` in the place of the file that `to` is or leads to, with that file's mode, owner and
+/// extended attributes.
 void replaceFile(const Bytes& from, const Bytes& to);
 
 /// Renames unless the target name is taken; returns 0 or the error code.

@@ -47,6 +47,17 @@ void PosixOpenFile::flush() {
   if (untilDone([&] { return ::fsync(descriptor_.get()); }) != 0) throwErrno(path_);
 }
 
+platform::FileStamp PosixOpenFile::stamp() {
+  struct stat status;
+  if (::fstat(descriptor_.get(), &status) != 0) throwErrno(path_);
+  return stampOf(status);
+}
+
+platform::FileStamp stampOf(const struct stat& status) {
+  return {status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+          std::int64_t{status.st_mtim.tv_sec} * 1'000'000'000 + status.st_mtim.tv_nsec};
+}
+
 bool lockWhole(int descriptor) {
   if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
   struct flock whole = {};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include "platform/files.h"
 #include "system/descriptor.h"
 
@@ -20,11 +22,14 @@ class PosixOpenFile final : public platform::OpenFile {
   void cutTo(std::uint64_t bytes) override;
   void flush() override;
   bool lockAlone() override { return lockWhole(descriptor_.get()); }
+  platform::FileStamp stamp() override;
 
  private:
   Descriptor descriptor_;
   Bytes path_;
 };
+
+platform::FileStamp stampOf(const struct stat& status);
 
 /// Writes all of `bytes` at `offset`; returns 0 or the error code.
 int writeFully(int descriptor, BytesView bytes, std::uint64_t offset);

@@ -108,6 +108,7 @@ class TracedFile final : public OpenFile {
   bool lockAlone() override {
     return run(trace_, named("lockAlone", path_), [this] { return file_->lockAlone(); });
   }
+  platform::FileStamp stamp() override { return file_->stamp(); }
 
  private:
   static std::string at(std::uint64_t offset, std::size_t bytes) {
@@ -139,6 +140,10 @@ bool TracedFiles::folderExists(const Text& path) {
 
 std::uint64_t TracedFiles::size(const Text& path) {
   return run(trace_, named("size", path), [&] { return files_.size(path); });
+}
+
+platform::FileStamp TracedFiles::stamp(const Text& path) {
+  return files_.stamp(path);
 }
 
 std::unique_ptr<OpenFile> TracedFiles::open(const Text& path, platform::OpenMode mode) {

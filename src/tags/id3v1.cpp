@@ -7,25 +7,33 @@ namespace velmora::tags {
 
 namespace {
 
-// Widths of the fields in their order; a byte 0, the track and the genre follow.
-constexpr std::size_t nameBytes = 30;  // title, artist and album each
-constexpr std::size_t yearBytes = 4;
-constexpr std::size_t commentBytes = 28;
+// Where the fields lie, and how wide they are.
+struct Field {
+  std::size_t offset;
+  std::size_t width;
+};
+constexpr Field titleField{3, 30};
+constexpr Field artistField{33, 30};
+constexpr Field albumField{63, 30};
+constexpr Field yearField{93, 4};
+constexpr Field commentField{97, 28};
+constexpr std::size_t trackMark = 125;  // 0 where the next byte is a track
+constexpr std::size_t trackOffset = 126;
+constexpr std::size_t genreOffset = 127;
 constexpr BytesView marker = "TAG";
 
-Text cleaned(BytesView field) {
-  field = field.substr(0, field.find('\0'));
-  Text text;
-  text.reserve(field.size());
-  for (const char byte : field)
-    if (byte >= 32 && byte <= 126) text += static_cast<char16_t>(byte);
+Text textOf(BytesView tag, Field field) {
+  BytesView bytes = tag.substr(field.offset, field.width);
+  bytes = bytes.substr(0, bytes.find('\0'));
+  Text text = core::fromCodePage(bytes);
+  std::erase_if(text, [](char16_t unit) { return unit < 32 || unit == 127; });
   return text;
 }
 
-Bytes padded(TextView text, std::size_t width) {
+void put(Bytes& tag, Field field, TextView text) {
   Bytes bytes = core::toCodePage(text);
-  bytes.resize(width, '\0');
-  return bytes;
+  bytes.resize(field.width, '\0');
+  tag.replace(field.offset, field.width, bytes);
 }
 
 [[noreturn]] void rethrow(platform::FileError& error) {
@@ -40,6 +48,7 @@ void cMP3ID3v1::reset() {
   Title = Artist = Album = Year = Comment = {};
   Track = 0;
   Genre = 255;
+  read_ = {};
 }
 
 void cMP3ID3v1::setMP3File(const Text& path) {
@@ -57,47 +66,51 @@ void cMP3ID3v1::setMP3File(const Text& path) {
 void cMP3ID3v1::read(SongBytes& song) {
   reset();
   if (song.size() <= tagBytes) return;
-  BytesView tag = song.end(tagBytes);
+  const BytesView tag = song.end(tagBytes);
   if (tag.size() < tagBytes || !tag.starts_with(marker)) return;
 
-  tag.remove_prefix(marker.size());
-  const auto take = [&tag](std::size_t width) {
-    const BytesView field = tag.substr(0, width);
-    tag.remove_prefix(width);
-    return cleaned(field);
-  };
   hasTag_ = true;
-  Title = take(nameBytes);
-  Artist = take(nameBytes);
-  Album = take(nameBytes);
-  Year = take(yearBytes);
-  Comment = take(commentBytes);
-  Track = tag[0] == '\0' ? static_cast<std::uint8_t>(tag[1]) : std::uint8_t{0};
-  Genre = static_cast<std::uint8_t>(tag[2]);
+  Title = textOf(tag, titleField);
+  Artist = textOf(tag, artistField);
+  Album = textOf(tag, albumField);
+  Year = textOf(tag, yearField);
+  Comment = textOf(tag, commentField);
+  Track = tag[trackMark] == '\0' ? static_cast<std::uint8_t>(tag[trackOffset]) : std::uint8_t{0};
+  Genre = static_cast<std::uint8_t>(tag[genreOffset]);
+  read_ = fields();
 }
 
-Bytes cMP3ID3v1::fields() const {
-  Bytes bytes;
-  bytes.reserve(tagBytes);
-  bytes += marker;
-  bytes += padded(Title, nameBytes);
-  bytes += padded(Artist, nameBytes);
-  bytes += padded(Album, nameBytes);
-  bytes += padded(Year, yearBytes);
-  bytes += padded(Comment, commentBytes);
-  bytes += '\0';
-  bytes += static_cast<char>(Track);
-  bytes += static_cast<char>(Genre);
-  return bytes;
+/// Puts the fields that were changed since they were read over those of `tag`.
+void cMP3ID3v1::putChanges(Bytes& tag) const {
+  const auto putText = [&tag](Field field, const Text& text, const Text& read) {
+    if (text != read) put(tag, field, text);
+  };
+  putText(titleField, Title, read_.title);
+  putText(artistField, Artist, read_.artist);
+  putText(albumField, Album, read_.album);
+  putText(yearField, Year, read_.year);
+  putText(commentField, Comment, read_.comment);
+  if (Track != read_.track) {
+    tag[trackMark] = '\0';
+    tag[trackOffset] = static_cast<char>(Track);
+  }
+  if (Genre != read_.genre) tag[genreOffset] = static_cast<char>(Genre);
 }
 
 void cMP3ID3v1::write(OpenSong& song) const {
-  const std::uint64_t size = song.bytes().size();
+  constexpr char noGenre = '\xFF';
+  SongBytes& bytes = song.bytes();
+  const std::uint64_t size = bytes.size();
   if (size == 0) throw notAValidMP3File(song.path());
   if (size <= tagBytes) return;
-  // A new tag begins on the last byte of the file, not behind it; this placement is kept as it stands.
-  const bool has = song.bytes().end(tagBytes).starts_with(marker);
-  song.write(has ? size - tagBytes : size - 1, fields());
+  const bool has = bytes.end(tagBytes).starts_with(marker);
+  const Bytes old = has ? Bytes(bytes.end(tagBytes)) : Bytes(marker) + Bytes(tagBytes - 4, '\0') + noGenre;
+  Bytes tag = old;
+  putChanges(tag);
+  if (!has)
+    song.write(size, tag);
+  else if (tag != old)
+    song.write(size - tagBytes, tag);
 }
 
 UpdateResult cMP3ID3v1::Update(const UpdateContext& context) {

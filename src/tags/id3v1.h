@@ -9,8 +9,9 @@
 
 namespace velmora::tags {
 
-/// The 128-byte tag at the end of one file. Written in its track form; on a file without one it begins on the
-/// file's last byte, which it replaces. A file of 128 bytes or less has none and gets none.
+/// The 128-byte tag at the end of one file. On a file without one it goes behind the last byte, in the track
+/// form; of one that is there only the fields are written that were changed. A file of 128 bytes or less has
+/// none and gets none.
 class cMP3ID3v1 {
  public:
   static constexpr std::size_t tagBytes = 128;
@@ -24,28 +25,35 @@ class cMP3ID3v1 {
   void read(SongBytes& song);
   const Text& MP3File() const { return path_; }
 
-  /// Writes the fields to the file. A file of 128 bytes or less is left untouched; one of no bytes at all
-  /// fails.
+  /// Writes the fields that were changed since they were read, or a whole tag to a file without one. A file
+  /// of 128 bytes or less is left untouched; one of no bytes at all fails.
   UpdateResult Update(const UpdateContext& context);
   /// The same through a song that may be open already.
   UpdateResult Update(const UpdateContext& context, OpenSong& song);
 
   bool HasID3v1Tag() const { return hasTag_; }
 
-  // On reading, all but printable ASCII is dropped and a byte 0 ends the text; blanks at the end stay.
+  // On reading, a byte 0 ends a text, and control characters are dropped; blanks at the end stay.
   Text Title, Artist, Album, Year;
   std::uint8_t Track = 0;
   Text Comment;
   std::uint8_t Genre = 255;
 
  private:
+  struct Fields {
+    Text title, artist, album, year, comment;
+    std::uint8_t track = 0;
+    std::uint8_t genre = 255;
+  };
+  Fields fields() const { return {Title, Artist, Album, Year, Comment, Track, Genre}; }
   void reset();
   void write(OpenSong& song) const;
-  Bytes fields() const;
+  void putChanges(Bytes& tag) const;
 
   platform::Files& files_;
   Text path_;
   bool hasTag_ = false;
+  Fields read_;  // as the file had them
 };
 
 }  // namespace velmora::tags

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <vector>
 
 #include "platform/files.h"
 #include "platform/text.h"
@@ -12,8 +14,8 @@
 
 namespace velmora::tags {
 
-/// The ID3v2 tag of one file: read in version 2, 3 or 4, written in version 3. Sizes are plain 32-bit
-/// numbers, text is single-byte; docs/formats.md tells where this departs from the published format.
+/// The ID3v2 tag of one file: read in version 2, 3 or 4. A tag of version 4 is written as that, any other as
+/// version 3. Frames whose text nobody sets are written back as they stand in the file at that moment.
 class cMP3ID3v2 {
  public:
   explicit cMP3ID3v2(platform::Files& files) : files_(files) {}
@@ -25,8 +27,10 @@ class cMP3ID3v2 {
   void read(SongBytes& song);
   const Text& MP3File() const { return path_; }
 
-  /// Whether a marker was found, of whatever version.
+  /// Whether a tag was found, of whatever version at the start of the file.
   bool HasID3v2Tag() const { return hasTag_; }
+  /// Whether there is anything to write.
+  bool changed() const { return !changes_.empty(); }
   std::uint8_t ID3v2TagVersion() const { return version_; }
   std::uint8_t TagVersion() const { return version_; }
 
@@ -36,13 +40,15 @@ class cMP3ID3v2 {
   /// Throws FileError for an identifier that the table does not have.
   void RemoveFrame(BytesView frame);
   int TagsInFrame(BytesView frame) const { return frames_.tags(frame); }
+  /// Adds a frame with this text, in the form of `frameText`.
   void AddTag(BytesView frame, TextView body);
-  /// Loses the bodies of all other identifiers while tags of this one remain: see FrameTable::removeTag.
-  void RemoveTag(BytesView frame, int index) { frames_.removeTag(frame, index); }
+  /// Throws FileError when there is no such frame.
+  void RemoveTag(BytesView frame, int index);
   Text TagText(BytesView frame, int index) const;
 
-  // Properties: the value last read or set. Setting one replaces its frame. `Genre` and `OtherGenreName`
-  // share a frame: whichever was set last wins.
+  // Properties: the value last read or set. Setting one to the value that it has changes nothing; setting it
+  // to another replaces its frame, and to nothing takes the frame out. `Genre` and `OtherGenreName` share a
+  // frame: whichever was set last wins. A genre of 255 and a track of "0" count as nothing.
   const Text& ArtistURL() const { return value(Property::ArtistURL); }
   void setArtistURL(const Text& text) { set(Property::ArtistURL, text); }
   const Text& BuyURL() const { return value(Property::BuyURL); }
@@ -80,8 +86,9 @@ class cMP3ID3v2 {
   const Text& Track() const { return value(Property::Track); }
   void setTrack(const Text& text) { set(Property::Track, text); }
 
-  /// Writes the frame table to the file: in place where the tag has room, else by a copy of the whole file
-  /// that takes its place in one step. A frame that cannot be written fails before the file is touched.
+  /// Writes what was changed to the file: in place where the tag has room, else by a copy of the whole file
+  /// that takes its place in one step. Where nothing was changed the file is not touched. A frame that cannot
+  /// be written fails before the file is touched.
   UpdateResult Update(const UpdateContext& context);
   /// The same through a song that may be open already.
   UpdateResult Update(const UpdateContext& context, OpenSong& song);
@@ -111,17 +118,25 @@ class cMP3ID3v2 {
   static const std::array<PropertyFrame, static_cast<std::size_t>(Property::Count)>& propertyFrames();
 
   const Text& value(Property property) const { return values_[static_cast<std::size_t>(property)]; }
+  Text& value(Property property) { return values_[static_cast<std::size_t>(property)]; }
   void set(Property property, const Text& text);
-  void replaceFrame(BytesView frame, const Text& body);
+  using Change = std::function<void(cMP3ID3v2&)>;
+  void change(Change apply);
+  void replaceText(BytesView frame, TextView head, TextView text);
+  void replaceYear(TextView year);
   void reset();
-  void StoreFrame(BytesView frame, Bytes body);
-  void storeGenre(const Text& text);
+  void load(SongBytes& song);
+  void show(const TagFrame& frame, bool commented);
+  void write(OpenSong& song);
+  std::uint8_t writtenVersion() const { return version_ == 4 ? 4 : 3; }
 
   platform::Files& files_;
   Text path_;
   bool hasTag_ = false;
   std::uint8_t version_ = 0;
   FrameTable frames_;
+  std::uint64_t readSerial_ = 0;  // of the bytes that the frames were read from
+  std::vector<Change> changes_;   // to the frames, since they were read
   std::array<Text, static_cast<std::size_t>(Property::Count)> values_;
   std::uint8_t genre_ = 255;
 };

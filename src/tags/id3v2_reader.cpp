@@ -1,142 +1,137 @@
 #include "tags/id3v2_reader.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <utility>
-
-#include "core/code_page.h"
-#include "tags/genre.h"
 
 namespace velmora::tags {
 
 namespace {
 
-constexpr std::size_t blockBytes = 4096;
-/// A body beyond this is no tag that anybody made.
-constexpr std::uint64_t largestBody = 256ULL * 1024 * 1024;
-constexpr std::size_t longBody = 300;  // bytes from which on a body is kept as it is
+constexpr std::uint16_t frameUnsynchronised = 0x0002;  // version 4
 
-bool printable(char byte) {
-  return byte >= 32 && byte <= 126;
-}
-
-Bytes MapFrameID(BytesView name) {
-  static constexpr std::array<std::pair<BytesView, BytesView>, 8> names = {{{"TP1", "TPE1"},
-                                                                            {"TT2", "TIT2"},
-                                                                            {"TAL", "TALB"},
-                                                                            {"COM", "COMM"},
-                                                                            {"TRK", "TRCK"},
-                                                                            {"TEN", "TENC"},
-                                                                            {"TYE", "TYER"},
-                                                                            {"TCO", "TCON"}}};
-  const auto* found = std::ranges::find(names, name, &std::pair<BytesView, BytesView>::first);
-  return found == names.end() ? Bytes() : Bytes(found->second);
-}
-
-/// A whole number of 0 to 255 with nothing but blanks around it.
-std::optional<std::uint8_t> byteNumber(TextView text) {
-  const auto first = text.find_first_not_of(u' ');
-  if (first == TextView::npos) return {};
-  text = text.substr(first, text.find_last_not_of(u' ') - first + 1);
-  unsigned number = 0;
-  for (const char16_t character : text) {
-    if (character < u'0' || character > u'9') return {};
-    number = number * 10 + (character - u'0');
-    if (number > 255) return {};
-  }
-  return static_cast<std::uint8_t>(number);
+bool allZero(BytesView bytes) {
+  return bytes.find_first_not_of('\0') == BytesView::npos;
 }
 
 }  // namespace
 
-std::optional<std::uint64_t> FindID3Position(SongBytes& song) {
-  for (std::uint64_t start = 0; start < song.size(); start += blockBytes - 3) {
-    const bool last = start + blockBytes >= song.size();
-    // The last block leaves out the file's last byte.
-    const auto length = last ? static_cast<std::size_t>(song.size() - start - 1) : blockBytes;
-    const BytesView block = song.at(start, length);
-    if (const auto found = block.find("ID3"); found != BytesView::npos) return start + found + 3;
-    if (last || block.find("\xFF\xFB") != BytesView::npos) return {};
+bool isFrameName(BytesView name) {
+  if (name.size() < 3) return false;
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    const char c = name[i];
+    const bool letter = (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    // A version 2 name in a version 3 tag, which some programs wrote.
+    const bool filled = i == 3 && (c == ' ' || c == '\0');
+    if (!letter && !filled) return false;
   }
-  return {};
+  return true;
 }
 
-std::uint32_t tagSize(SongBytes& song, std::uint64_t position) {
-  const BytesView field = song.at(position + 3, 4);
-  return field.size() == 4 ? bigEndian(field) : 0;
+Bytes undoUnsynchronisation(BytesView bytes) {
+  Bytes out;
+  out.reserve(bytes.size());
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    out += bytes[i];
+    if (bytes[i] == '\xFF' && i + 1 < bytes.size() && bytes[i + 1] == '\0') ++i;
+  }
+  return out;
 }
 
-FrameReader::FrameReader(SongBytes& song, std::uint64_t position)
-    : song_(song), size_(tagSize(song, position)), at_(position + 7) {
-  if (const BytesView version = song.at(position, 1); !version.empty())
-    version_ = static_cast<std::uint8_t>(version[0]);
-  ended_ = version_ < 2 || version_ > 4;
+FrameReader::FrameReader(SongBytes& song, const TagHeader& tag, std::uint64_t limit, RealEnd realEnd)
+    : song_(song), tag_(tag), at_(tag.start + TagHeader::bytes), limit_(limit), realEnd_(realEnd) {
+  if (tag_.footer && limit_ >= at_ + TagHeader::bytes && tag_.publishedEnd() == limit_)
+    limit_ -= TagHeader::bytes;
+  if (tag_.version < 4 && tag_.unsynchronised() && limit_ > at_) {
+    decoded_ = undoUnsynchronisation(song_.at(at_, static_cast<std::size_t>(limit_ - at_)));
+    at_ = 0;
+    limit_ = decoded_->size();
+  }
+  if (tag_.extended()) skipExtendedHeader();
 }
 
-struct FrameReader::Header {
-  Bytes name;
-  std::uint64_t size;  // as the frame declares it
-};
+void FrameReader::skipExtendedHeader() {
+  const BytesView field = view(at_, 4);
+  if (field.size() < 4 || isFrameName(field)) return;  // the mark is set, and there is none
+  const std::uint64_t size = tag_.version == 4 ? sevenBitNumber(field).value_or(0) : bigEndian(field) + 4ULL;
+  if (size >= 6 && reaches(at_ + size)) at_ += size;
+}
 
-std::optional<FrameReader::Header> FrameReader::readHeader() {
-  const bool shortForm = version_ == 2;
-  const std::size_t nameBytes = shortForm ? 3 : 4;
-  const std::size_t headerBytes = shortForm ? 6 : 10;
-  const BytesView header = song_.at(at_, headerBytes);
-  if (header.size() < headerBytes) return {};
-  const BytesView name = header.substr(0, nameBytes);
-  if (name.find_first_not_of('\0') == BytesView::npos) return {};
-  const std::uint32_t size = bigEndian(header.substr(nameBytes, nameBytes));
-  at_ += headerBytes;
-  // Both counts are larger than the headers really are, so the last frames of a full tag are not read.
-  total_ += shortForm ? 9 : 16;
-  if (shortForm) return Header{MapFrameID(name), size};
-  return Header{Bytes(name),
-                static_cast<std::uint64_t>(std::abs(std::int64_t{static_cast<std::int32_t>(size)}))};
+BytesView FrameReader::view(std::uint64_t offset, std::size_t count) {
+  if (!decoded_) return song_.at(offset, count);
+  return offset >= decoded_->size() ? BytesView() : BytesView(*decoded_).substr(offset, count);
+}
+
+/// Whether the tag reaches as far as `end`.
+bool FrameReader::reaches(std::uint64_t end) {
+  if (end > limit_ && realEnd_) {
+    limit_ = std::max(limit_, realEnd_(song_, tag_));
+    realEnd_ = nullptr;
+  }
+  return end <= limit_;
+}
+
+/// Whether a frame, padding or the end of the tag stands here.
+bool FrameReader::endsWell(std::uint64_t offset) {
+  if (offset >= limit_) return offset == limit_;
+  const BytesView next = view(offset, static_cast<std::size_t>(std::min<std::uint64_t>(4, limit_ - offset)));
+  return allZero(next) || isFrameName(next);
+}
+
+std::uint64_t FrameReader::frameSize(BytesView header) {
+  if (tag_.version == 2) return bigEndian(header.substr(3, 3));
+  const std::uint32_t number = bigEndian(header.substr(4, 4));
+  const auto plain = static_cast<std::uint64_t>(std::abs(std::int64_t{static_cast<std::int32_t>(number)}));
+  if (tag_.version == 3) return plain;
+  // Version 4 has seven bits in each byte, but some programs did not know.
+  const auto published = sevenBitNumber(header.substr(4, 4));
+  if (!published || *published == plain) return plain;
+  const std::uint64_t body = at_ + TagHeader::bytes;
+  return !endsWell(body + *published) && endsWell(body + plain) ? plain : *published;
 }
 
 std::optional<FrameReader::Found> FrameReader::next() {
-  if (ended_) return {};
-  const auto header = readHeader();
-  if (!header || total_ + header->size > size_ || header->size > largestBody) {
-    ended_ = true;
-    return {};
+  const std::size_t nameBytes = tag_.version == 2 ? 3 : 4;
+  const std::size_t headerBytes = tag_.version == 2 ? 6 : 10;
+  if (!tag_.readable() || (!realEnd_ && at_ >= limit_)) return {};
+  BytesView header = view(at_, headerBytes);
+  if (header.size() < headerBytes || !isFrameName(header.substr(0, nameBytes))) return {};
+  if (!reaches(at_ + headerBytes)) return {};
+  header = view(at_, headerBytes);
+  Found found{Bytes(header.substr(0, nameBytes)), 0, at_ + headerBytes, 0, false};
+  if (tag_.version > 2) found.flags = static_cast<std::uint16_t>(bigEndian(header.substr(8, 2)));
+  const std::uint64_t size = frameSize(header);
+  if (!reaches(found.offset + size)) return {};
+  found.length = static_cast<std::size_t>(size);
+  if (tag_.version == 4) {
+    found.unsynchronised = tag_.unsynchronised() || (found.flags & frameUnsynchronised) != 0;
+    found.flags &= static_cast<std::uint16_t>(~frameUnsynchronised);
   }
-  total_ += header->size;
-  const std::uint64_t rest = song_.size() > at_ ? song_.size() - at_ : 0;
-  const Found found{header->name, at_, static_cast<std::size_t>(std::min(header->size, rest))};
-  at_ += found.length;
-  // A position in the file against a size: a tag that does not begin the file ends early. Kept as it is.
-  ended_ = at_ > size_;
+  at_ = found.offset + size;
   return found;
 }
 
-Bytes CleanFrameText(BytesView body) {
-  if (body.size() >= longBody) return Bytes(body);
-  Bytes clean;
-  clean.reserve(body.size());
-  std::ranges::copy_if(body, std::back_inserter(clean), printable);
-  return clean;
+BytesView FrameReader::body(const Found& frame) {
+  const BytesView bytes = view(frame.offset, frame.length);
+  if (!frame.unsynchronised) return bytes;
+  body_ = undoUnsynchronisation(bytes);
+  return body_;
 }
 
-Text frameText(BytesView body) {
-  if (body.size() >= longBody) return core::fromCodePage(body);
-  Text text;
-  text.reserve(body.size());
-  std::ranges::copy_if(body, std::back_inserter(text), printable);
-  return text;
+BytesView FrameReader::tail() {
+  if (at_ >= limit_) return {};
+  const auto rest = static_cast<std::size_t>(limit_ - at_);
+  const BytesView start = view(at_, std::min<std::size_t>(4, rest));
+  if (allZero(start)) return {};
+  const BytesView all = view(at_, rest);
+  return all.substr(0, all.find_last_not_of('\0') + 1);
 }
 
-GenreText parseGenre(TextView body) {
-  const auto open = body.find(u'(');
-  const auto close = body.find(u')');
-  if (open == TextView::npos || close == TextView::npos || close < open) return {{}, Text(body)};
-  const auto code = byteNumber(body.substr(open + 1, close - open - 1));
-  if (!code) return {{}, Text(body)};
-  // A single character behind the parenthesis counts as no text.
-  if (body.size() <= close + 2) return {code, GenreName(*code)};
-  return {code, Text(body.substr(close + 1))};
+std::uint64_t framesEnd(SongBytes& song, const TagHeader& tag, std::uint64_t limit) {
+  const bool whole = !tag.readable() || (tag.version < 4 && tag.unsynchronised());
+  FrameReader frames(song, tag, whole ? tag.start + TagHeader::bytes : limit);
+  while (frames.next()) {
+  }
+  return frames.position();
 }
 
 }  // namespace velmora::tags

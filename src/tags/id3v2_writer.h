@@ -1,20 +1,21 @@
 #pragma once
 
+#include <cstdint>
+
 #include "platform/text.h"
 #include "tags/id3v2_frames.h"
 #include "tags/open_song.h"
 
 namespace velmora::tags {
 
-/// The frames as a version 3 tag: header with size bytes still 0, frames with an encoding byte 0 ahead of
-/// each body, four bytes 0 as the end. Identifiers that contain "ID3" are left out. Throws FileError when an
-/// identifier has not four characters or a body was lost.
-Bytes tagBytes(const FrameTable& frames);
+/// The frames as a tag of version 3 or 4, its size bytes still 0 and no padding behind it. Throws FileError
+/// when a name has not four characters or a frame is too large for the version.
+Bytes tagBytes(const FrameTable& frames, std::uint8_t version);
 
-/// Puts the frames as the tag of a song. Where the new tag is smaller than the size that the old one
-/// declares, it goes over the old one and the file keeps its length; otherwise the file grows at its start,
-/// to a tag size that is a multiple of 2048. Throws FileError; the file is then as it was, unless a write in
-/// place failed half way.
-void writeTag(OpenSong& song, const FrameTable& frames);
+/// Puts the frames as the tag of a song, in the place of the one that `findTag` finds. Where they fit between
+/// its start and its real end the file keeps its length; otherwise it grows there, to a tag of a multiple of
+/// 2048 bytes. A tag that cannot be read stays as it is behind the new one. Throws FileError; the file is
+/// then as it was.
+void writeTag(OpenSong& song, const FrameTable& frames, std::uint8_t version);
 
 }  // namespace velmora::tags

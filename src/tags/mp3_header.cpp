@@ -6,6 +6,7 @@
 
 #include "platform/file_error.h"
 #include "platform/trace.h"
+#include "tags/id3v2_place.h"
 
 namespace velmora::tags {
 
@@ -83,15 +84,6 @@ std::optional<std::uint64_t> findFrame(SongBytes& song, std::uint64_t offset) {
 }
 
 }  // namespace
-
-std::uint64_t ID3TagEnd(SongBytes& song) {
-  const BytesView head = song.at(0, 10);
-  if (!head.starts_with("ID3")) return 0;
-  std::uint64_t size = 0;
-  for (std::size_t i = 6; i < head.size(); ++i)
-    size += std::uint64_t{static_cast<unsigned char>(head[i])} << (7 * (9 - i));
-  return size + 10;
-}
 
 void clsMP3HeadReader::ReadMP3Header(platform::Files& files, const Text& path) {
   try {

@@ -8,11 +8,6 @@
 
 namespace velmora::tags {
 
-/// Bytes from the start of the file to the first byte behind a leading ID3v2 tag, its size read as a
-/// synchsafe number with all eight bits of each byte counting; 0 without a tag. May lie beyond the end of the
-/// file.
-std::uint64_t ID3TagEnd(SongBytes& song);
-
 /// The first MPEG audio frame header of a file. Deliberately naive: the first byte 0xFF behind a leading tag
 /// is taken as the frame, and the playing time comes from the file's size. An MPEG-2 file reports no bit
 /// rate.

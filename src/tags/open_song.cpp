@@ -19,6 +19,7 @@ platform::OpenFile& OpenSong::open() {
     close();
     file_ = std::move(file);
     alone_ = file_->lockAlone();
+    stamp_ = file_->stamp();
   }
   return *file_;
 }
@@ -58,13 +59,30 @@ SongBytes& OpenSong::bytesToRead() {
   }
 }
 
+/// What a write of `count` bytes would write over.
+Bytes OpenSong::oldBytes(std::uint64_t offset, std::size_t count) {
+  const Bytes old(bytes().at(offset, count));
+  if (old.size() < std::min<std::uint64_t>(count, bytes().size() - std::min(offset, bytes().size())))
+    throw platform::FileError(platform::FileError::deviceError);
+  return old;
+}
+
 void OpenSong::write(std::uint64_t offset, BytesView bytes) {
   platform::OpenFile& file = open();
-  const bool within = bytes_ && offset + bytes.size() <= bytes_->size();
+  const Bytes old = oldBytes(offset, bytes.size());
+  const std::uint64_t size = bytes_->size();
+  const bool within = offset + bytes.size() <= size;
   try {
     file.writeAt(offset, bytes);
+    stamp_ = file.stamp();
   } catch (const platform::FileError&) {
     bytes_.reset();
+    try {
+      if (!old.empty()) file.writeAt(offset, old);
+      file.cutTo(size);
+    } catch (const platform::FileError& error) {
+      platform::caughtSilently(error);  // the first failure is the one to tell of
+    }
     throw;
   }
   if (within)
@@ -73,24 +91,36 @@ void OpenSong::write(std::uint64_t offset, BytesView bytes) {
     bytes_.reset();
 }
 
-void OpenSong::InsertZeroBytes(std::uint64_t count, BytesView head) {
-  constexpr std::size_t blockBytes = 256 * 1024;
-  const Text stem = Text(core::dropRight(core::paths::fileName(path_), 4)) + u"ID3tagadd";
-  SideFile side(files_, path_, stem, u".tmp");
-  side.write(head);
-  if (head.size() < count) side.writeZeros(count - head.size());
+void OpenSong::cutTo(std::uint64_t bytes) {
+  bytes_.reset();
+  open().cutTo(bytes);
+  stamp_ = file_->stamp();
+}
 
-  std::uint64_t at = head.size() > count ? head.size() - count : 0;  // the head lies over these
-  const std::uint64_t size = open().size();
-  Bytes block(static_cast<std::size_t>(std::min<std::uint64_t>(blockBytes, size)), '\0');
-  while (at < size) {
-    const std::size_t got = open().readAt(at, block);
-    if (got == 0) throw platform::FileError(platform::FileError::deviceError);
-    side.write(BytesView(block).substr(0, got));
-    at += got;
-  }
+void OpenSong::replacePart(std::uint64_t from, std::uint64_t to, BytesView bytes, const Copying& copying) {
+  platform::OpenFile& file = open();
+  const std::uint64_t size = file.size();
+  const Text name(core::paths::fileName(path_));
+  const bool growing = copying.ending.empty();
+  SideFile side(files_, path_, growing ? Text(core::dropRight(name, 4)) + u"ID3tagadd" : name,
+                growing ? Text(u".tmp") : copying.ending);
+  Bytes block(copying.afterBlock ? 2'097'152 : 256 * 1024, '\0');
+  const auto copy = [&](std::uint64_t at, std::uint64_t end) {
+    while (at < end) {
+      const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(block.size(), end - at));
+      if (file.readAt(at, std::span(block).first(count)) < count)
+        throw platform::FileError(platform::FileError::deviceError);
+      side.write(BytesView(block).substr(0, count));
+      at += count;
+      if (copying.afterBlock) copying.afterBlock();
+    }
+  };
+  copy(0, from);
+  side.write(bytes);
+  copy(to, size);
+  const platform::FileStamp stamp = stamp_;
   close();
-  side.takePlace();
+  side.takePlace(stamp);
 }
 
 }  // namespace velmora::tags

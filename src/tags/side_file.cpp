@@ -52,21 +52,15 @@ SideFile::~SideFile() {
 }
 
 void SideFile::write(BytesView bytes) {
+  if (bytes.empty()) return;
   file_->writeAt(size_, bytes);
   size_ += bytes.size();
 }
 
-void SideFile::writeZeros(std::uint64_t count) {
-  const Bytes block(static_cast<std::size_t>(std::min<std::uint64_t>(count, std::uint64_t{64} * 1024)), '\0');
-  while (count > 0) {
-    const BytesView part =
-        BytesView(block).substr(0, static_cast<std::size_t>(std::min<std::uint64_t>(count, block.size())));
-    write(part);
-    count -= part.size();
-  }
-}
-
-void SideFile::takePlace() {
+void SideFile::takePlace(const platform::FileStamp& stamp) {
+  file_->flush();  // which may take long: the look at the song comes behind it
+  if (files_.stamp(song_) != stamp)
+    throw platform::FileError(platform::FileError::deviceError, u"Another program has changed the file");
   files_.replace(path_, song_);
   file_.reset();
 }

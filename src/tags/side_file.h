@@ -21,10 +21,10 @@ class SideFile {
 
   /// Adds to the end.
   void write(BytesView bytes);
-  void writeZeros(std::uint64_t count);
   /// Takes the song's place in one step, with its mode and owner, once all is on the disk. The song must be
-  /// closed. Throws FileError; the song is then as it was.
-  void takePlace();
+  /// closed. Throws FileError, also where the song is not the one any more that `stamp` was taken of; the
+  /// song is then as it was.
+  void takePlace(const platform::FileStamp& stamp);
 
  private:
   platform::Files& files_;

@@ -12,6 +12,11 @@ constexpr std::size_t largestChunk = 64 * 1024;
 
 SongBytes::SongBytes(platform::OpenFile& file) : file_(file), size_(file.size()) {}
 
+std::uint64_t SongBytes::nextSerial() {
+  static std::uint64_t last = 0;
+  return ++last;
+}
+
 bool SongBytes::Stretch::holds(std::uint64_t offset, std::size_t count) const {
   return offset >= start && offset - start <= bytes.size() && bytes.size() - (offset - start) >= count;
 }

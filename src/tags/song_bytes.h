@@ -25,6 +25,8 @@ class SongBytes {
   BytesView at(std::uint64_t offset, std::size_t count);
   /// The last `count` bytes, 128 at most; fewer where the file is shorter. Good until the next call.
   BytesView end(std::size_t count);
+  /// Another number for each object: what was read through one is what the song holds as long as this stays.
+  std::uint64_t serial() const { return serial_; }
   /// Follows a write to the file that lay within it: what was read before is right again.
   void wrote(std::uint64_t offset, BytesView bytes);
 
@@ -42,8 +44,11 @@ class SongBytes {
   const Stretch& readHead();
   const Stretch& readAhead(std::uint64_t offset, std::size_t count);
 
+  static std::uint64_t nextSerial();
+
   platform::OpenFile& file_;
   std::uint64_t size_;
+  std::uint64_t serial_ = nextSerial();
   Stretch head_;  // the first block is kept, since all readers begin there
   Stretch ahead_;
   Stretch end_;  // kept, too, since the writer of the tag that lies there looks at it once more

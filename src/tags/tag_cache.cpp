@@ -7,7 +7,9 @@
 #include "platform/trace.h"
 #include "tags/genre.h"
 #include "tags/id3v1.h"
-#include "tags/id3v2_reader.h"
+#include "tags/id3v2_names.h"
+#include "tags/id3v2_place.h"
+#include "tags/id3v2_text.h"
 
 namespace velmora::tags {
 
@@ -22,7 +24,7 @@ struct Id3v2Values {
     if (frame == "TIT2") return &title;
     if (frame == "TPE1") return &artist;
     if (frame == "TALB") return &album;
-    if (frame == "TYER") return &year;
+    if (frame == "TYER" || frame == "TDRC") return &year;
     if (frame == "TRCK") return &track;
     if (frame == "TCON") return &genre;
     return nullptr;
@@ -31,15 +33,16 @@ struct Id3v2Values {
 
 Id3v2Values readId3v2(SongBytes& song) {
   Id3v2Values values;
-  const auto position = FindID3Position(song);
-  if (!position) return values;
+  const auto tag = findTag(song);
+  if (!tag) return values;
   values.found = true;
-  FrameReader frames(song, *position);
+  FrameReader frames = framesOf(song, *tag);
   while (const auto frame = frames.next()) {
-    Text* column = values.column(frame->name);
-    if (!column) continue;
-    Text body = frameText(song.at(frame->offset, frame->length));
-    *column = column == &values.genre ? parseGenre(body).name : std::move(body);
+    const Bytes name = tag->version == 2 ? MapFrameID(frame->name) : frame->name;
+    Text* column = values.column(name);
+    if (!column || (column == &values.year && !givesYear(name, tag->version, values.year))) continue;
+    Text text = shownText(name, frameText(name, tag->version, frame->flags, frames.body(*frame)));
+    *column = column == &values.genre ? parseGenre(text, tag->version).name : std::move(text);
   }
   if (values.track == u"0") values.track.clear();
   return values;

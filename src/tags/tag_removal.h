@@ -3,18 +3,24 @@
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/hand_over.h"
+#include "tags/busy_file.h"
 
 namespace velmora::tags {
 
-/// Removes the leading ID3v2 tag, by a copy beside the file with ".new" behind its name that then takes its
-/// place in one step; lets events through meanwhile. The tag's size is read as a synchsafe number. A file
-/// without one stays as it is. Throws FileError, also where the size leaves nothing of the file; the file is
-/// then as it was.
-void SkiniID3v2(platform::Files& files, platform::Desktop& desktop, platform::FileHolder& player,
-                const Text& path);
-/// Removes the last 128 bytes the same way, with ".mp3" behind the name. The caller knows that there is a
-/// tag.
-void SkiniID3v1(platform::Files& files, platform::Desktop& desktop, platform::FileHolder& player,
-                const Text& path);
+/// What the removal of a tag needs.
+struct RemovalParts {
+  platform::Files& files;
+  platform::Desktop& desktop;
+  platform::FileHolder& player;
+  BusyFile& busyFile;
+};
+
+/// Removes the leading ID3v2 tag up to its real end, by a copy beside the file with ".new" behind its name
+/// that then takes its place in one step; lets events through meanwhile. A file without one stays as it is.
+/// Waits while another program holds the file; false when that wait was given up. Throws FileError, also
+/// where nothing of the file would be left; the file is then as it was.
+bool SkiniID3v2(const RemovalParts& parts, const Text& path);
+/// Cuts the ID3v1 tag off, in place; the rest as above.
+bool SkiniID3v1(const RemovalParts& parts, const Text& path);
 
 }  // namespace velmora::tags

@@ -1,5 +1,7 @@
 #include "undo/tag_restorer.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "core/number_text.h"
@@ -9,7 +11,6 @@
 #include "tags/genre.h"
 #include "tags/id3v1.h"
 #include "tags/id3v2.h"
-#include "tags/tag_removal.h"
 #include "tags/update_result.h"
 
 namespace velmora::undo {
@@ -24,6 +25,14 @@ constexpr std::uint8_t noGenre = 255;
 std::uint8_t trackByte(const Text& text) {
   const int track = core::intValue(text);
   return track >= 0 && track <= 255 ? static_cast<std::uint8_t>(track) : std::uint8_t{0};
+}
+
+/// Whether the tag holds anything that no command of ours writes, such as a picture.
+bool holdsMore(const tags::cMP3ID3v2& tag) {
+  static constexpr std::array<BytesView, 6> ours = {"TIT2", "TPE1", "TALB", "TYER", "TRCK", "TCON"};
+  for (int index = 1; index <= tag.FrameCount(); ++index)
+    if (std::ranges::find(ours, BytesView(tag.Frame(index))) == ours.end()) return true;
+  return false;
 }
 
 /// Puts the values of the columns into the tag; false when it has them all already.
@@ -106,34 +115,36 @@ UndoOutcome TagRestorer::restore(int row, const journal::RowSnapshot& before) {
     track.imaid3v1 = false;
   }
   if (madeID3v2) {
-    if (!removeID3v2(path)) track.procitan = false;
-    track.imaid3v2 = false;
+    bool mixed = false;
+    if (!removeID3v2(path, mixed)) track.procitan = false;
+    track.imaid3v2 = mixed;
   }
   const UndoOutcome outcome = writeTags(path, track);
   parts_.panel.info(path, row, tags::InfoMode::TagsOnly);
   return outcome;
 }
 
-/// The file is asked, not the column: after a crash that may speak of a tag that is gone already, and cutting
-/// it off again would cut into the music.
+/// The file is asked, not the column: after a crash that may speak of a tag that is gone already.
 bool TagRestorer::removeID3v1(const Text& path) {
   bool removed = false;
+  parts_.errors.attempt(path, [&] { removed = tags::SkiniID3v1(removalParts(), path); });
+  return removed;
+}
+
+/// A tag that another program has put something into meanwhile stays, with our texts taken out of it.
+bool TagRestorer::removeID3v2(const Text& path, bool& mixed) {
+  bool removed = false;
   parts_.errors.attempt(path, [&] {
-    tags::cMP3ID3v1 tag(parts_.files);
+    tags::cMP3ID3v2 tag(parts_.files);
     tag.setMP3File(path);
-    if (tag.HasID3v1Tag()) tags::SkiniID3v1(parts_.files, parts_.desktop, parts_.player, path);
-    removed = true;
+    mixed = holdsMore(tag);
+    removed = mixed || tags::SkiniID3v2(removalParts(), path);
   });
   return removed;
 }
 
-bool TagRestorer::removeID3v2(const Text& path) {
-  bool removed = false;
-  parts_.errors.attempt(path, [&] {
-    tags::SkiniID3v2(parts_.files, parts_.desktop, parts_.player, path);
-    removed = true;
-  });
-  return removed;
+tags::RemovalParts TagRestorer::removalParts() const {
+  return {parts_.files, parts_.desktop, parts_.player, parts_.busyFile};
 }
 
 UndoOutcome TagRestorer::writeTags(const Text& path, core::Track& track) {

@@ -7,6 +7,7 @@
 #include "platform/hand_over.h"
 #include "tags/busy_file.h"
 #include "tags/file_panel.h"
+#include "tags/tag_removal.h"
 #include "ui/failures.h"
 #include "undo/undo_errors.h"
 #include "undo/undo_outcome.h"
@@ -35,7 +36,8 @@ class TagRestorer {
  private:
   /// Both answer whether the tag is gone.
   bool removeID3v1(const Text& path);
-  bool removeID3v2(const Text& path);
+  bool removeID3v2(const Text& path, bool& mixed);
+  tags::RemovalParts removalParts() const;
   UndoOutcome writeTags(const Text& path, core::Track& track);
   bool makeWritable(const Text& path);
 

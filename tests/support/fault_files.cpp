@@ -33,6 +33,7 @@ class FaultFile final : public OpenFile {
     real_->flush();
   }
   bool lockAlone() override { return real_->lockAlone(); }
+  platform::FileStamp stamp() override { return real_->stamp(); }
 
  private:
   FaultFiles& files_;

@@ -11,7 +11,7 @@
 namespace velmora::test {
 
 /// Passes every operation on to another Files, notes it, and lets the n-th fail. Questions that never throw
-/// (fileExists, folderExists, identity, busy) are neither counted nor failed.
+/// (fileExists, folderExists, identity, busy) and stamps are neither counted nor failed.
 class FaultFiles final : public platform::Files {
  public:
   explicit FaultFiles(platform::Files& real) : real_(real) {}
@@ -40,6 +40,7 @@ class FaultFiles final : public platform::Files {
   bool fileExists(const Text& path) override { return real_.fileExists(path); }
   bool folderExists(const Text& path) override { return real_.folderExists(path); }
   std::uint64_t size(const Text& path) override;
+  platform::FileStamp stamp(const Text& path) override { return real_.stamp(path); }
   std::unique_ptr<platform::OpenFile> open(const Text& path, platform::OpenMode mode) override;
   std::unique_ptr<platform::OpenFile> create(const Text& path) override;
   Bytes readAll(const Text& path) override;

@@ -40,9 +40,9 @@ TEST_F(ID3v1, ReadsItsFields) {
   EXPECT_EQ(tag.Genre, 17);
 }
 
-TEST_F(ID3v1, CleansTextOnReading) {
+TEST_F(ID3v1, TextsEndAtAZeroByteAndHoldNoControlCharacters) {
   const auto read = [this](const Text& title) { return tagOf("x" + id3v1Tag({.title = title})).Title; };
-  EXPECT_EQ(read(u"Häfen \u0001of\u007F~"), u"Hfen of~");
+  EXPECT_EQ(read(u"Häfeň \u0001of\u007F~ Š"), u"Häfe? of~ Š");
   EXPECT_EQ(read(Text(u"Song\0behind", 11)), u"Song");
   EXPECT_EQ(read(u"Song   "), u"Song   ") << "blanks at the end are the caller's";
   EXPECT_EQ(read(Text(40, u'x')), Text(30, u'x'));
@@ -80,7 +80,7 @@ TEST_F(ID3v1, AFileThatCannotBeOpenedThrowsAndStaysBound) {
   EXPECT_EQ(tag.MP3File(), path);
 }
 
-TEST_F(ID3v1, ANewTagBeginsOnTheLastByteOfTheFile) {
+TEST_F(ID3v1, ANewTagGoesBehindTheLastByte) {
   const Bytes audio = test::mpegFrames(2);
   auto tag = tagOf(audio);
   tag.Title = u"A title of more than thirty letters";
@@ -92,13 +92,29 @@ TEST_F(ID3v1, ANewTagBeginsOnTheLastByteOfTheFile) {
   wanted.replace(33, 5,
                  "\x8E"
                  "al ?");
-  EXPECT_EQ(folder.read(u"song.mp3"), audio.substr(0, audio.size() - 1) + wanted);
+  EXPECT_EQ(folder.read(u"song.mp3"), audio + wanted);
 
   // The second write finds it and grows no more.
-  tag.Album = u"Songs";
-  EXPECT_EQ(tag.Update(context()), UpdateResult::Done);
+  auto again = tagOf(audio + wanted);
+  again.Album = u"Songs";
+  EXPECT_EQ(again.Update(context()), UpdateResult::Done);
   wanted.replace(63, 5, "Songs");
-  EXPECT_EQ(folder.read(u"song.mp3"), audio.substr(0, audio.size() - 1) + wanted);
+  EXPECT_EQ(folder.read(u"song.mp3"), audio + wanted);
+}
+
+TEST_F(ID3v1, OnlyChangedFieldsAreWritten) {
+  Bytes old = id3v1Tag(tags, 200, Text(28, u'c'));
+  old.replace(125, 2, "cc");       // a comment of thirty letters, and so no track
+  old.replace(10, 3, "\1\0x", 3);  // what no field shows
+  auto tag = tagOf("audio" + old);
+  EXPECT_EQ(tag.Update(context()), UpdateResult::Done);
+  EXPECT_EQ(folder.read(u"song.mp3"), "audio" + old);
+  tag.Album = u"Other";
+  EXPECT_EQ(tag.Update(context()), UpdateResult::Done);
+  EXPECT_EQ(folder.read(u"song.mp3"), "audio" + Bytes(old).replace(63, 30, "Other" + Bytes(25, '\0')));
+  tag.Track = 4;
+  EXPECT_EQ(tag.Update(context()), UpdateResult::Done);
+  EXPECT_EQ(folder.read(u"song.mp3").substr(5 + 125, 2), Bytes("\0\4", 2));
 }
 
 TEST_F(ID3v1, AFileOf128BytesOrLessIsLeftAlone) {
@@ -110,7 +126,7 @@ TEST_F(ID3v1, AFileOf128BytesOrLessIsLeftAlone) {
   }
   auto tag = tagOf(Bytes(129, 'x'));
   EXPECT_EQ(tag.Update(context()), UpdateResult::Done);
-  EXPECT_EQ(folder.read(u"song.mp3").size(), 129U + 127U);
+  EXPECT_EQ(folder.read(u"song.mp3").size(), 129U + 128U);
 }
 
 TEST_F(ID3v1, FailuresOfUpdateAsWithThePathOfTheCurrentRow) {

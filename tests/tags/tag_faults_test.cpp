@@ -46,6 +46,7 @@ struct TagFaults : TagFixture {
       folder.write(u"song.mp3", before);
       test::FaultFiles faults(files);
       faults.failAt(nth, platform::FileError::diskFull);
+      faults.tearsWrites = true;
       test::errorNumber([&] { job(faults, path); });
       const Bytes now = folder.read(u"song.mp3");
       EXPECT_TRUE(now == before || now == after);
@@ -72,10 +73,15 @@ TEST_F(TagFaults, WritingAnID3v2TagInPlaceAndByGrowth) {
 TEST_F(TagFaults, RemovingTags) {
   test::ScriptedDesktop desktop;
   platform::NoFileHolder player;
-  survivesFaults(test::Id3v2Maker().padding(500).bytes() + audio,
-                 [&](platform::Files& with, const Text& path) { SkiniID3v2(with, desktop, player, path); });
-  survivesFaults(audio + test::id3v1Tag({}),
-                 [&](platform::Files& with, const Text& path) { SkiniID3v1(with, desktop, player, path); });
+  ui::Label label;
+  const auto removing = [&](bool (*remove)(const RemovalParts&, const Text&)) {
+    return [&, remove](platform::Files& with, const Text& path) {
+      BusyFile busyFile(with, desktop, label);
+      remove({with, desktop, player, busyFile}, path);
+    };
+  };
+  survivesFaults(test::Id3v2Maker().padding(500).bytes() + audio, removing(&SkiniID3v2));
+  survivesFaults(audio + test::id3v1Tag({}), removing(&SkiniID3v1));
 }
 
 TEST_F(TagFaults, UpdateTagsKeepsTheFramesThatThePanelDoesNotShow) {
@@ -126,6 +132,10 @@ TEST_F(TagFaults, ADiskThatGetsFullLeavesTheSongWhole) {
   const test::FileSizeLimit limit(1'000'000);
   writing<cMP3ID3v2>()(files, path);
   EXPECT_EQ(folder.read(u"song.mp3"), large);
+  const Bytes nearTheEdge = large.substr(0, 1'000'000 - 50);
+  folder.write(u"song.mp3", nearTheEdge);
+  writing<cMP3ID3v1>()(files, path);
+  EXPECT_EQ(folder.read(u"song.mp3"), nearTheEdge) << "no half tag";
   EXPECT_EQ(files.list(folder.path()).entries.size(), 1U);
 }
 

@@ -224,5 +224,19 @@ TEST_F(StrangersTest, LongPathsAndNamesWhoseStrayBytesMeetComeBack) {
   EXPECT_EQ(rows(), before);
 }
 
+TEST_F(StrangersTest, ATagThatAnotherProgramHasPutAPictureIntoStays) {
+  add({{u"arvola - one"}});
+  form1().tags.writeID3v1.setChecked(false);
+  form1().tags.writeID3v2.setChecked(true);
+  clickForAll(tools().fnToId3);
+  program.files.writeAll(
+      pathOf(u"arvola - one"),
+      test::Id3v2Maker().values({.title = u"one", .artist = u"arvola"}).picture(20).padding(30).bytes() +
+          test::mpegFrames());
+  undo();
+  EXPECT_NE(read(u"arvola - one").find("APIC"), Bytes::npos);
+  EXPECT_EQ(second(u"arvola - one"), "||||");
+}
+
 }  // namespace
 }  // namespace velmora

@@ -255,14 +255,14 @@ TEST_F(UndoTest, ATagThatTheOperationMadeIsTakenOffOnceAndNeverCutsIntoTheMusic)
   const Bytes record = journal();
   undo();
   EXPECT_EQ(first(u"a"), "none");
-  EXPECT_EQ(program.files.readAll(pathOf(u"a")), music.substr(0, music.size() - 1))
-      << "the tag began on the last byte of the music";
+  EXPECT_TRUE(program.files.readAll(pathOf(u"a")) == music);
   // Killed before the table was saved: the same undo once more, with columns that still speak of a tag.
   program.table().track(1).imaid3v1 = true;
   program.folder.write(u"program/UndoData.txt", record);
   tools().undoLastOperation.setEnabled(true);
   undo();
-  EXPECT_EQ(program.files.readAll(pathOf(u"a")), music.substr(0, music.size() - 1));
+  EXPECT_TRUE(program.files.readAll(pathOf(u"a")) == music);
+  ;
 }
 
 TEST_F(UndoTest, UndoNameTakesBackTheEditInTheBoxFirst) {
