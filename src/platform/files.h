@@ -31,6 +31,16 @@ struct FolderId {
   auto operator<=>(const FolderId&) const = default;
 };
 
+/// Tells one state of a file from every other: a file that is written, or another one in its place, has a new
+/// stamp. All zero for what is not there.
+struct FileStamp {
+  std::uint64_t device = 0;
+  std::uint64_t node = 0;
+  std::uint64_t bytes = 0;
+  std::int64_t written = 0;  ///< nanoseconds
+  bool operator==(const FileStamp&) const = default;
+};
+
 struct FolderListing {
   FolderId id;
   /// In the order of the file system, without "." and "..".
@@ -71,6 +81,13 @@ class Files {
   virtual bool folderExists(const Text& path) = 0;
   /// Length of a file in bytes.
   virtual std::uint64_t size(const Text& path) = 0;
+  /// Never throws.
+  virtual FileStamp stamp(const Text& path) {
+    static_cast<void>(path);
+    return {};
+  }
+  /// The path with all links followed; the path itself where it leads nowhere. Never throws.
+  virtual Text realPath(const Text& path) { return path; }
 
   /// Opens a regular file that exists; a pipe or device is refused unopened with pathAccess.
   virtual std::unique_ptr<OpenFile> open(const Text& path, OpenMode mode) = 0;
@@ -78,8 +95,16 @@ class Files {
   virtual std::unique_ptr<OpenFile> create(const Text& path) = 0;
   /// The whole content.
   virtual Bytes readAll(const Text& path) = 0;
+  /// Writes `bytes` beside a file of the program's own, begins to bring them to the disk, and returns where
+  /// they are, for `replace` to put them into the place of `path`. The name depends on `path` alone, so that
+  /// what a kill leaves is written over by the next save.
+  virtual Text writeBeside(const Text& path, BytesView bytes) {
+    Text beside = path + u".new";
+    create(beside)->writeAt(0, bytes);
+    return beside;
+  }
   /// Makes `bytes` the whole content of a file of the program's own (never of a song), creating it if
-  /// missing.
+  /// missing: written beside it, brought to the disk and put in its place in one step.
   virtual void writeAll(const Text& path, BytesView bytes) = 0;
   /// Adds `bytes` behind the content and flushes them to the system, creating the file if missing.
   virtual void append(const Text& path, BytesView bytes) = 0;

@@ -19,6 +19,11 @@ class TracedFiles final : public platform::Files {
   std::unique_ptr<platform::OpenFile> open(const Text& path, platform::OpenMode mode) override;
   std::unique_ptr<platform::OpenFile> create(const Text& path) override;
   Bytes readAll(const Text& path) override;
+  platform::FileStamp stamp(const Text& path) override { return files_.stamp(path); }
+  Text realPath(const Text& path) override { return files_.realPath(path); }
+  Text writeBeside(const Text& path, BytesView bytes) override;
+  Text identity(const Text& path) override { return files_.identity(path); }
+  void beforeRemoval(std::function<void()> call) override { files_.beforeRemoval(std::move(call)); }
   void writeAll(const Text& path, BytesView bytes) override;
   void append(const Text& path, BytesView bytes) override;
   void makeFolder(const Text& path) override;
