@@ -192,6 +192,7 @@ void DataFolder::savenizove(const TrackTable& table) {
   contents.push_back({Text(autoriFile), contentOf(table.autori)});
   const std::int64_t count = table.brojfajlova() + std::ssize(more);
   namesTold_ = columns_.write(contents, [&] { return settings_.setNumber(u"ghb", count); });
+  settings_.set(u"velicinasfiles", number(table.velicinasfiles));
   if (namesTold_) savedTail_ = table.rows() - working;
   if (!tagsTold_) mark_.set(savedTail_);
   unmark();

@@ -4,6 +4,7 @@
 
 #include "core/number_text.h"
 #include "platform/file_error.h"
+#include "platform/trace.h"
 
 namespace velmora::core {
 
@@ -14,7 +15,8 @@ constexpr BytesView byteOrderMark = "\xEF\xBB\xBF";
 Bytes readTwice(platform::Files& files, const Text& path) {
   try {
     return files.readAll(path);
-  } catch (const platform::FileError&) {
+  } catch (const platform::FileError& error) {
+    platform::caughtSilently(error);
     return files.readAll(path);
   }
 }

@@ -50,6 +50,10 @@ TEST_F(Forget, EachCommandOfTheProcessingWindowHasSavedWhatItKnows) {
       writes->setChecked(true);
     selectAll();
     (tools().*button).click();
+    double bytes = 0;
+    for (int row = 1; row <= 3; ++row)
+      bytes += static_cast<double>(program.files.size(program.table().path(row)));
+    EXPECT_EQ(program.table().velicinasfiles, bytes) << "the sum of sizes follows what is written";
     expectSavedBy("a batch or its undo");
   }
   form1().List4.select({0}, 0);
