@@ -72,7 +72,7 @@ void BaseWindow::showRoot() {
 void BaseWindow::placeWindow() {
   core::Settings& settings = parts_.settings;
   ui::Form3& form3 = parts_.form3;
-  // Without a stored height the view places a window of design size; see nearMiddle.
+  // Without a stored height the view places a window of design size.
   if (!settings.get(u"f3h").empty()) {
     const int height = twips(settings.get(u"f3h"));
     const int width = twips(settings.get(u"f3w"));

@@ -44,7 +44,11 @@ void ModalWait::remind() {
 
 void ModalWait::dismissAll() {
   dismissed_ = true;
-  for (Wait& wait : open_) wait.window->hide();
+  for (Wait& wait : open_) {
+    // As the user closes it, so that a choice without its OK is put back.
+    wait.window->closeRequest();
+    wait.window->hide();
+  }
 }
 
 }  // namespace velmora::app

@@ -9,6 +9,7 @@
 #include "core/paths.h"
 #include "core/text.h"
 #include "ui/list_state.h"
+#include "ui/view_choice.h"
 
 namespace velmora::app {
 
@@ -98,10 +99,12 @@ void ProcessingWindow::store() {
   ui::ListState state(FieldCount);
   state[Artists] = form1_.List1.selectedIndexes();
   state[Songs] = form1_.List2.selectedIndexes();
-  state[Files] = form1_.List4.selectedIndexes();
+  // The list comes back with the songs, whose rows those of the other files are not.
+  const bool songs = ui::viewOf(form1_) == ui::View::Music;
+  if (songs) state[Files] = form1_.List4.selectedIndexes();
   state[TopArtist] = {form1_.List1.TopIndex()};
   state[TopSong] = {form1_.List2.TopIndex()};
-  state[TopFile] = {form1_.List4.TopIndex()};
+  state[TopFile] = {songs ? form1_.List4.TopIndex() : 0};
   settings_.set(u"stanje0", ui::writeListState(state));
   settings_.set(u"slider", core::number(form1_.preview.share()));
 }

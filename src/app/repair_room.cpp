@@ -17,6 +17,7 @@ RepairRoom::RepairRoom(const Ground& on)
                .form1 = on.windows.form1}),
       frame({.table = on.table,
              .data = on.data,
+             .files = on.services.files,
              .form1 = on.windows.form1,
              .progress = on.progress,
              .closing = on.closing,

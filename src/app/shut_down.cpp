@@ -2,20 +2,16 @@
 
 #include "app/guarded.h"
 #include "app/house.h"
+#include "app/tell_of_others.h"
 
 namespace velmora::app {
 
 namespace {
 
-void unloadForm1(House& house) {
+void storeOptions(House& house) {
   const core::TrackTable& table = house.table;
   core::Settings& settings = house.settings;
-  guarded([&] { house.processing.store(); });
-  guarded([&] {
-    settings.setNumber(u"aktivniprozor", static_cast<int>(table.aktivniprozor));
-    settings.setNumber(u"vrsta", static_cast<int>(table.vrsta));
-  });
-  guarded([&] { house.data.savenizove(table); });
+  const core::Settings::Together together(settings);
   guarded([&] {
     const ui::ListBox& pair = house.windows.form1.List6;
     if (pair.ListCount() < 2) return;
@@ -26,6 +22,23 @@ void unloadForm1(House& house) {
     settings.setBoolean(u"dupli", house.windows.form7.similarFilename.chosen());
     settings.setNumber(u"ton", table.ton);
   });
+}
+
+void unloadForm1(House& house) {
+  const core::TrackTable& table = house.table;
+  core::Settings& settings = house.settings;
+  guarded([&] {
+    const core::Settings::Together together(settings);
+    house.processing.store();
+    settings.setNumber(u"aktivniprozor", static_cast<int>(table.aktivniprozor));
+    settings.setNumber(u"vrsta", static_cast<int>(table.vrsta));
+  });
+  guarded([&] { house.data.savenizove(table); });
+  // After a kill the next start would find dashes and tags anew once more.
+  guarded([&] {
+    if (!house.data.namesTrue()) house.data.SaveID3nizove(table);
+  });
+  guarded([&] { storeOptions(house); });
   guarded([&] { house.player.close(); });
 }
 
@@ -50,11 +63,15 @@ void shutDown(House& house) {
   house.shuttingDown = true;
   // Before the load there is nothing to store, and an empty table would wipe the files of the last run.
   if (house.loaded) {
-    house.base.unload();
-    house.newMusic.unload();
+    {
+      const core::Settings::Together together(house.settings);
+      house.base.unload();
+      house.newMusic.unload();
+    }
     house.windows.form3.hide();
     house.windows.form1.hide();
     unloadForm1(house);
+    guarded([&] { tellOfOthers(house); });
   }
   leave(house);
 }

@@ -7,12 +7,9 @@
 #include "app/guarded.h"
 #include "core/number_text.h"
 #include "names/grammar.h"
+#include "ui/display_limit.h"
 
 namespace velmora::app {
-
-TableLoader::TableLoader(core::TrackTable& table, const core::Settings& settings, core::DataFolder& data,
-                         ui::Form1& form1)
-    : table_(table), settings_(settings), data_(data), form1_(form1) {}
 
 void TableLoader::load() {
   guarded([&] { readColumns(); });
@@ -21,25 +18,32 @@ void TableLoader::load() {
 }
 
 void TableLoader::readColumns() {
-  data_.readNames(table_);
-  if (table_.rows() >= 1 || !table_.niznomusic.empty()) form1_.ostali.setEnabled(true);
-  for (int row = 1; row <= table_.rows(); ++row) names::PevacIPesma(table_, row);
-  data_.readTags(table_);
+  core::TrackTable& table = parts_.table;
+  parts_.data.readNames(table);
+  if (table.rows() >= 1 || !table.niznomusic.empty()) parts_.form1.ostali.setEnabled(true);
+  for (int row = 1; row <= table.rows(); ++row) names::PevacIPesma(table, row);
+  parts_.data.readTags(table);
+  if (parts_.data.namesTrue()) return;
+  for (int row = 1; row <= table.rows(); ++row) parts_.dashes.find(row);
+  parts_.artists.collect({});
 }
 
 void TableLoader::showList() {
+  const core::TrackTable& table = parts_.table;
+  const int rows = ui::shownRows(table.workingRows());
   std::vector<Text> paths;
-  paths.reserve(static_cast<std::size_t>(table_.workingRows() > 0 ? table_.workingRows() : 0));
-  for (int row = 1; row <= table_.workingRows(); ++row) paths.push_back(table_.path(row));
-  form1_.List4.fill(std::move(paths));
-  form1_.listTitle.setText(u"M U S I C    F I L E S");
+  paths.reserve(static_cast<std::size_t>(rows));
+  for (int row = 1; row <= rows; ++row) paths.push_back(table.path(row));
+  parts_.form1.List4.fill(std::move(paths));
+  parts_.form1.listTitle.setText(u"M U S I C    F I L E S");
 }
 
 void TableLoader::showCounts() {
-  form1_.countLabel.setText(core::number(std::int64_t{table_.brojfajlova()}) + u"  new songs ");
-  const double bytes = core::value(settings_.get(u"velicinasfiles"));
-  table_.velicinasfiles = std::isfinite(bytes) ? std::abs(bytes) : 0;
-  form1_.sizeLabel.setText(core::sizeText(table_.velicinasfiles));
+  core::TrackTable& table = parts_.table;
+  parts_.form1.countLabel.setText(core::number(std::int64_t{table.brojfajlova()}) + u"  new songs ");
+  const double bytes = core::value(parts_.settings.get(u"velicinasfiles"));
+  table.velicinasfiles = std::isfinite(bytes) ? std::abs(bytes) : 0;
+  parts_.form1.sizeLabel.setText(core::sizeText(table.velicinasfiles));
 }
 
 }  // namespace velmora::app

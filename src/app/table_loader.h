@@ -3,6 +3,8 @@
 #include "core/data_folder.h"
 #include "core/settings.h"
 #include "core/track_table.h"
+#include "list/dash_finder.h"
+#include "rows/artist_book.h"
 #include "ui/form1.h"
 
 namespace velmora::app {
@@ -10,8 +12,15 @@ namespace velmora::app {
 /// Fills the whole table from the Data folder, and shows it in the Processing Window.
 class TableLoader {
  public:
-  TableLoader(core::TrackTable& table, const core::Settings& settings, core::DataFolder& data,
-              ui::Form1& form1);
+  struct Parts {
+    core::TrackTable& table;
+    const core::Settings& settings;
+    core::DataFolder& data;
+    list::DashFinder& dashes;
+    rows::ArtistBook& artists;
+    ui::Form1& form1;
+  };
+  explicit TableLoader(const Parts& parts) : parts_(parts) {}
 
   void load();
 
@@ -20,10 +29,7 @@ class TableLoader {
   void showList();
   void showCounts();
 
-  core::TrackTable& table_;
-  const core::Settings& settings_;
-  core::DataFolder& data_;
-  ui::Form1& form1_;
+  Parts parts_;
 };
 
 }  // namespace velmora::app

@@ -6,6 +6,7 @@
 #include "app/house.h"
 #include "app/shut_down.h"
 #include "app/start_up.h"
+#include "app/tell_of_others.h"
 #include "app/wiring.h"
 
 namespace velmora::app {
@@ -18,6 +19,7 @@ void commandDone(House& house) {
   house.modal.holdOthers();
   house.front.settle();
   enableCommands(house);
+  tellOfOthers(house);
 }
 
 }  // namespace

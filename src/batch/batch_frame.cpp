@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "journal/undo_group.h"
 #include "platform/file_error.h"
+#include "rows/listed_size.h"
 #include "platform/trace.h"
 #include "ui/view_choice.h"
 
@@ -61,6 +62,7 @@ void BatchFrame::walk(const std::vector<int>& rows, const std::function<bool(int
   for (const int row : rows) {
     ++counter;
     parts_.progress.UpdateProgress(100.0 * counter / static_cast<double>(rows.size()));
+    const rows::ListedSize size(parts_.table, parts_.files, row);
     if (parts_.table.Stop || !treat(row)) return;
   }
 }

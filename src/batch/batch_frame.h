@@ -22,6 +22,7 @@ class BatchFrame {
   struct Parts {
     core::TrackTable& table;
     core::DataFolder& data;
+    platform::Files& files;
     ui::Form1& form1;
     ui::Progress& progress;
     ui::ClosingStep& closing;

@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
+#include <unordered_set>
 #include <utility>
 
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/records.h"
+#include "core/saved_rows.h"
 #include "core/text.h"
-#include "platform/file_error.h"
 #include "platform/trace.h"
 
 namespace velmora::core {
@@ -44,6 +46,13 @@ constexpr TextView autoriFile = u"autori.txt";
 constexpr TextView stariautoriFile = u"stariautori.txt";
 constexpr TextView bazanizFile = u"bazaniz.txt";
 
+/// The one spelling that a column's file is made in, whatever capitals it is asked for in.
+TextView properName(TextView fileName) {
+  const auto* found = std::ranges::find_if(
+      columnFiles, [&](const ColumnFile& file) { return equalNoCase(file.name, fileName); });
+  return found == columnFiles.end() ? fileName : found->name;
+}
+
 constexpr std::size_t bytesAroundText = 4;  // of a record: its quotes and line end
 
 /// A column longer than `nizdes` has outlived the rows it spoke of: what is beyond them must not come to
@@ -54,32 +63,62 @@ void takeColumn(TrackTable& table, Column column, std::vector<Element> elements)
   table.setColumn(column, std::move(elements));
 }
 
-/// Whether the rows of the table end with the whole Music Base list.
-bool endsWithTail(const TrackTable& table) {
-  const int tail = static_cast<int>(table.bazaniz.size());
-  if (tail > table.rows()) return false;
-  for (int i = tail; i > 0; --i)
-    if (table.path(table.rows() - tail + i) != table.bazaniz[static_cast<std::size_t>(i - 1)]) return false;
-  return true;
-}
-
-/// A row of which a tag column says nothing, because its file is missing or cut short, is as good as unread:
-/// its blanks must not be taken for what the song says.
+/// A row of which a tag column says nothing, because its file is missing, is as good as unread: its blanks
+/// must not be taken for what the song says.
 void forgetHalfRead(TrackTable& table) {
-  int whole = table.rows();
-  for (const Column column : tagColumns())
-    if (column != &Track::procitan) whole = std::min(whole, std::max(table.upperBound(column), 0));
-  for (int row = whole + 1; row <= table.upperBound(&Track::procitan); ++row) table.track(row).procitan = {};
+  const bool whole = std::ranges::all_of(
+      tagColumns(), [&](Column column) { return table.upperBound(column) >= table.rows(); });
+  if (!whole) table.erase(&Track::procitan);
 }
 
-/// The working list that a stored count stands for. A count that the rows cannot bear comes from a damaged
-/// file, and one that was stored in a change that did not end may be of other rows; then every row is taken
-/// as the user's own save those of the Music Base, which no batch may touch. These are the Music Base list
-/// as it was found last, or else as many rows as they were before the change.
-int workingRows(const TrackTable& table, int stored, std::optional<int> markedTail) {
-  if (!markedTail && stored <= table.rows()) return std::max(stored, 0);
-  const int found = endsWithTail(table) ? static_cast<int>(table.bazaniz.size()) : 0;
-  return std::max(table.rows() - (found > 0 ? found : markedTail.value_or(0)), 0);
+/// Adds the records of rows `first` to `last` to `out`.
+void writeRows(Bytes& out, const TrackTable& table, Column column, int first, int last) {
+  // Rows and their texts lie all over the memory; asked for ahead, they are there in time.
+  constexpr int rowAhead = 24;
+  constexpr int textAhead = 12;
+  const auto visit = [&](const auto& take) {
+    for (int row = first; row <= last; ++row) {
+      __builtin_prefetch(&table.element(column, row + rowAhead));
+      __builtin_prefetch(&table.element(column, row + textAhead).text());
+      take(table.element(column, row));
+    }
+  };
+  std::size_t room = out.size();
+  visit([&](const Element& element) { room += element.text().size() + bytesAroundText; });
+  out.reserve(room);
+  visit([&](const Element& element) { records::write(out, element); });
+}
+
+void writeTexts(Bytes& out, const std::vector<Text>& list) {
+  std::size_t room = out.size();
+  for (const Text& text : list) room += text.size() + bytesAroundText;
+  out.reserve(room);
+  for (const Text& text : list) records::writeText(out, text);
+}
+
+Bytes contentOf(const std::vector<Text>& list, const std::vector<Text>& more = {}) {
+  Bytes content;
+  writeTexts(content, list);
+  writeTexts(content, more);
+  return content;
+}
+
+/// Those of `theirs` that neither `ours` nor `known` holds.
+std::vector<Text> unknownOf(const std::vector<Text>& theirs, const std::unordered_set<TextView>& ours) {
+  std::vector<Text> unknown;
+  for (const Text& text : theirs)
+    if (!ours.contains(text)) unknown.push_back(text);
+  return unknown;
+}
+
+std::unordered_set<TextView> setOf(const std::vector<Text>& first, const std::vector<Text>& second) {
+  std::unordered_set<TextView> all(first.begin(), first.end());
+  all.insert(second.begin(), second.end());
+  return all;
+}
+
+void append(std::vector<Text>& to, std::vector<Text> more) {
+  std::ranges::move(more, std::back_inserter(to));
 }
 
 }  // namespace
@@ -87,9 +126,9 @@ int workingRows(const TrackTable& table, int stored, std::optional<int> markedTa
 DataFolder::DataFolder(platform::Files& files, Settings& settings, Text programFolder)
     : files_(files),
       settings_(settings),
-      folder_(paths::join(programFolder, u"Data")),
-      changing_(paths::join(programFolder, u"velmora.changing")),
-      namesTold_(!files_.fileExists(changing_)),
+      columns_(files, paths::join(programFolder, u"Data")),
+      mark_(files, paths::join(programFolder, u"velmora.changing")),
+      namesTold_(!mark_.exists()),
       tagsTold_(namesTold_) {}
 
 TextView DataFolder::fileOf(Column column) {
@@ -97,109 +136,70 @@ TextView DataFolder::fileOf(Column column) {
   return found == columnFiles.end() ? TextView() : found->name;
 }
 
-Text DataFolder::path(TextView fileName) const {
-  for (const ColumnFile& file : columnFiles)
-    if (equalNoCase(file.name, fileName)) fileName = file.name;
-  Text exact = paths::join(folder_, fileName);
-  if (files_.fileExists(exact) || !files_.folderExists(folder_)) return exact;
-  try {
-    for (const platform::FolderEntry& entry : files_.list(folder_).entries)
-      if (entry.kind == platform::EntryKind::File && equalNoCase(entry.name, fileName))
-        return paths::join(folder_, entry.name);
-  } catch (const platform::FileError& error) {
-    platform::caughtSilently(error);
-    // A folder that cannot be listed may still let its files be read.
-  }
-  return exact;
-}
-
 void DataFolder::writeColumn(TextView fileName, const TrackTable& table, Column column) {
-  const int rows = table.upperBound(column);
-  // Rows and their texts lie all over the memory; asked for ahead, they are there in time.
-  constexpr int rowAhead = 24;
-  constexpr int textAhead = 12;
-  const auto visit = [&](const auto& take) {
-    for (int row = 1; row <= rows; ++row) {
-      __builtin_prefetch(&table.element(column, row + rowAhead));
-      __builtin_prefetch(&table.element(column, row + textAhead).text());
-      take(table.element(column, row));
-    }
-  };
-  std::size_t room = 0;
-  visit([&](const Element& element) { room += element.text().size() + bytesAroundText; });
   Bytes content;
-  content.reserve(room);
-  visit([&](const Element& element) { records::write(content, element); });
-  store(fileName, content);
+  writeRows(content, table, column, 1, table.upperBound(column));
+  columns_.write({{Text(properName(fileName)), std::move(content)}});
 }
 
 void DataFolder::writeList(TextView fileName, const std::vector<Text>& list) {
-  std::size_t room = 0;
-  for (const Text& text : list) room += text.size() + bytesAroundText;
-  Bytes content;
-  content.reserve(room);
-  for (const Text& text : list) records::writeText(content, text);
-  store(fileName, content);
+  columns_.write({{Text(properName(fileName)), contentOf(list)}});
 }
 
-void DataFolder::store(TextView fileName, BytesView content) {
-  if (!content.empty()) {
-    try {
-      files_.makeFolder(folder_);
-      files_.writeAll(path(fileName), content);
-      return;
-    } catch (const platform::FileError& error) {
-      platform::caughtSilently(error);
-      // A file half old and half new would give rows the words of others: rather none.
-    }
-  }
-  remove(fileName);
-}
-
-void DataFolder::remove(TextView fileName) {
+std::optional<std::vector<Element>> DataFolder::read(TextView fileName) {
   try {
-    const Text file = path(fileName);
-    if (files_.fileExists(file)) files_.remove(file);
-  } catch (const platform::FileError& error) {
+    if (const auto content = columns_.read(fileName)) return records::readAll(*content);
+  } catch (const std::exception& error) {
     platform::caughtSilently(error);
-    // Nothing more can be done about it.
+    // Such as too little memory for it: this column ends, and the others are read.
   }
+  return std::nullopt;
 }
 
-std::vector<Element> DataFolder::readColumn(TextView fileName) const {
-  try {
-    return records::readAll(files_.readAll(path(fileName)));
-  } catch (const platform::FileError& error) {
-    platform::caughtSilently(error);
-    return {};
-  }
+std::vector<Element> DataFolder::readColumn(TextView fileName) {
+  return read(fileName).value_or(std::vector<Element>());
 }
 
-std::vector<Text> DataFolder::readList(TextView fileName) const {
-  try {
-    return records::readTexts(files_.readAll(path(fileName)));
-  } catch (const platform::FileError& error) {
-    platform::caughtSilently(error);
-    return {};
-  }
+std::vector<Text> DataFolder::readList(TextView fileName) {
+  std::vector<Text> texts;
+  for (const Element& element : readColumn(fileName)) texts.push_back(element.text());
+  return texts;
 }
+
+// --- Saving -----------------------------------------------------------------------------------------------
 
 void DataFolder::savenizove(const TrackTable& table) {
   mark();
-  settings_.setNumber(u"ghb", table.brojfajlova());
-  writeColumn(fileOf(&Track::nizdes), table, &Track::nizdes);
-  writeColumn(fileOf(&Track::crtapos), table, &Track::crtapos);
-  writeList(niznomusicFile, table.niznomusic);
-  writeList(bazepesamaFile, table.bazepesama);
-  writeList(autoriFile, table.autori);
-  savedTail_ = table.rows() - table.workingRows();
-  namesTold_ = true;
-  tagsTold_ ? unmark() : writeMark(savedTail_);
+  noticeOthers(table);
+  const std::vector<Text> more = stillThere(others_.rows);
+  const int working = table.workingRows();
+  const auto rowsOf = [&](Column column) {
+    Bytes content;
+    if (column != &Track::nizdes && table.upperBound(column) <= 0) return content;
+    writeRows(content, table, column, 1, working);
+    if (column == &Track::nizdes)
+      writeTexts(content, more);
+    else
+      records::writeNothing(content, more.size());
+    writeRows(content, table, column, working + 1, table.rows());
+    return content;
+  };
+  std::vector<ColumnFiles::Content> contents;
+  for (const Column column : {&Track::nizdes, &Track::crtapos})
+    contents.push_back({Text(fileOf(column)), rowsOf(column)});
+  contents.push_back({Text(niznomusicFile), contentOf(table.niznomusic, stillThere(others_.otherFiles))});
+  contents.push_back({Text(bazepesamaFile), contentOf(table.bazepesama, others_.folders)});
+  contents.push_back({Text(autoriFile), contentOf(table.autori)});
+  const std::int64_t count = table.brojfajlova() + std::ssize(more);
+  namesTold_ = columns_.write(contents, [&] { return settings_.setNumber(u"ghb", count); });
+  settings_.set(u"velicinasfiles", number(table.velicinasfiles));
+  if (namesTold_) savedTail_ = table.rows() - working;
+  if (!tagsTold_) mark_.set(savedTail_);
+  unmark();
 }
 
-/// All columns get one length, so that a row that was read into a column without storage is kept. Row by row
-/// and not column by column, so that each row is fetched from memory once for all files. Rows of the tail
-/// hold nothing, and there may be many: what holds nothing is only counted until something follows.
+/// Row by row and not column by column, so that each row is fetched from memory once for all files. Rows of
+/// the tail hold nothing, and there may be many: what holds nothing is only counted until something follows.
 void DataFolder::SaveID3nizove(const TrackTable& table) {
   struct File {
     Column column;
@@ -207,16 +207,11 @@ void DataFolder::SaveID3nizove(const TrackTable& table) {
     std::size_t nothing = 0;  // elements not yet in the content
   };
   std::vector<File> files;
-  int last = table.rows();
-  while (last > 0 && table.track(last).procitan.isNothing()) --last;
-  for (const Column column : tagColumns()) {
-    files.push_back({column, {}});
-    last = std::max(last, table.upperBound(column));
-  }
-  for (int row = 1; row <= last; ++row) {
+  for (const Column column : tagColumns()) files.push_back({column, {}});
+  for (int row = 1; row <= table.rows(); ++row) {
     const Track& track = table.track(row);
     for (File& file : files) {
-      const Element& element = table.hasRow(row) ? track.*file.column : table.element(file.column, row);
+      const Element& element = track.*file.column;
       if (element.isNothing()) {
         ++file.nothing;
         continue;
@@ -226,11 +221,13 @@ void DataFolder::SaveID3nizove(const TrackTable& table) {
     }
   }
   mark();
+  meetOthers();
+  std::vector<ColumnFiles::Content> contents;
   for (File& file : files) {
     records::writeNothing(file.content, file.nothing);
-    store(fileOf(file.column), file.content);
+    contents.push_back({Text(fileOf(file.column)), std::move(file.content)});
   }
-  tagsTold_ = true;
+  tagsTold_ = columns_.write(contents);
   unmark();
 }
 
@@ -240,63 +237,108 @@ void DataFolder::beginChange() {
 }
 
 void DataFolder::mark() {
-  if (files_.fileExists(changing_)) return;
-  writeMark(files_.fileExists(path(fileOf(&Track::nizdes))) ? savedTail_ : 0);
+  if (!mark_.exists()) mark_.set(columns_.exists(fileOf(&Track::nizdes)) ? savedTail_ : 0);
 }
 
-void DataFolder::writeMark(int tail) {
-  try {
-    files_.writeAll(changing_, toBytes(number(std::int64_t{tail})));
-  } catch (const platform::FileError& error) {
-    platform::caughtSilently(error);
-    // Without the mark a kill may leave a row read that is not, or a count of other rows; nothing worse.
-  }
-}
-
+/// With rows of another instance among them, the tag columns and the artists do not speak of all rows.
 void DataFolder::unmark() {
-  try {
-    if (namesTold_ && tagsTold_ && files_.fileExists(changing_)) files_.remove(changing_);
-  } catch (const platform::FileError& error) {
-    platform::caughtSilently(error);
-    // The next start reads tags that it could have taken from the columns.
-  }
+  if (namesTold_ && tagsTold_ && !others_.met) mark_.remove();
 }
 
-std::optional<int> DataFolder::markedTail() const {
-  try {
-    const Text tail = fromBytes(files_.readAll(changing_));
-    // A kill before the first byte came before any change.
-    if (!tail.empty()) return std::max(intValue(tail), 0);
-  } catch (const platform::FileError& error) {
-    platform::caughtSilently(error);
-    // No mark, as after every change that has ended.
-  }
-  return std::nullopt;
+// --- Another instance -------------------------------------------------------------------------------------
+
+/// Columns of two instances side by side would give songs the tags of others: the mark then stays, whichever
+/// of them saves last.
+void DataFolder::meetOthers() {
+  const bool met = std::ranges::any_of(
+      columnFiles, [this](const ColumnFile& file) { return columns_.changedByOthers(file.name); });
+  if (met) others_.met = others_.untold = true;
 }
 
-void DataFolder::readNames(TrackTable& table) const {
-  for (const Column column : {&Track::nizdes, &Track::crtapos})
-    takeColumn(table, column, readColumn(fileOf(column)));
+void DataFolder::noticeOthers(const TrackTable& table) {
+  meetOthers();
+  if (!columns_.changedByOthers(fileOf(&Track::nizdes)) && !columns_.changedByOthers(niznomusicFile)) return;
+  TrackTable theirs;
+  readLists(theirs);
+  others_.met = others_.untold = true;
+
+  std::unordered_set<TextView> ours(others_.rows.begin(), others_.rows.end());
+  for (int row = 1; row <= table.rows(); ++row) ours.insert(table.path(row));
+  std::vector<Text> rows;
+  for (int row = 1; row <= workingRows(theirs, true); ++row)
+    if (!ours.contains(theirs.path(row))) rows.push_back(theirs.path(row));
+  append(others_.rows, stillThere(rows));
+  append(others_.otherFiles,
+         stillThere(unknownOf(theirs.niznomusic, setOf(table.niznomusic, others_.otherFiles))));
+  append(others_.folders, unknownOf(theirs.bazepesama, setOf(table.bazepesama, others_.folders)));
+}
+
+/// What was renamed or filed away since is no row any more.
+std::vector<Text> DataFolder::stillThere(const std::vector<Text>& paths) const {
+  std::vector<Text> there;
+  for (const Text& path : paths)
+    if (files_.fileExists(path)) there.push_back(path);
+  return there;
+}
+
+std::optional<std::size_t> DataFolder::takeNoticeOfOthers() {
+  if (!std::exchange(others_.untold, false)) return std::nullopt;
+  return others_.rows.size();
+}
+
+// --- Loading ----------------------------------------------------------------------------------------------
+
+void DataFolder::readLists(TrackTable& table) {
+  for (const Column column : {&Track::nizdes, &Track::crtapos}) {
+    auto elements = read(fileOf(column));
+    if (column == &Track::crtapos)
+      namesTrue_ = elements.value_or(std::vector<Element>()).size() == static_cast<std::size_t>(table.rows());
+    takeColumn(table, column, std::move(elements).value_or(std::vector<Element>()));
+  }
   table.niznomusic = readList(niznomusicFile);
   table.bazepesama = readList(bazepesamaFile);
-  table.stariautori = readList(stariautoriFile);
-  table.setBrojfajlova(table.rows());
   table.bazaniz = readList(bazanizFile);
+}
+
+void DataFolder::readNames(TrackTable& table) {
+  readLists(table);
+  table.stariautori = readList(stariautoriFile);
   table.autori = readList(autoriFile);
+  table.setBrojfajlova(table.rows());
   for (const Column column : {&Track::pesma, &Track::pevac})
     table.setColumn(column, std::vector<Element>(static_cast<std::size_t>(table.rows())));
 }
 
 void DataFolder::readTags(TrackTable& table) {
-  const bool changing = files_.fileExists(changing_);
+  const bool changing = mark_.exists();
+  const auto rows = static_cast<std::size_t>(table.rows());
+  bool agree = table.upperBound(&Track::crtapos) <= 0 || namesTrue_;
   for (const Column column : tagColumns()) {
-    const bool untrue = changing && column == &Track::procitan;
-    takeColumn(table, column, untrue ? std::vector<Element>() : readColumn(fileOf(column)));
+    auto elements = read(fileOf(column));
+    agree = agree && (!elements || elements->size() == rows);
+    takeColumn(table, column, std::move(elements).value_or(std::vector<Element>()));
   }
-  forgetHalfRead(table);
+  if (changing || !agree)
+    for (const Column column : tagColumns()) table.erase(column);
+  else
+    forgetHalfRead(table);
+  namesTrue_ = namesTrue_ && !changing;
   table.brojbaza = static_cast<int>(table.bazepesama.size());
-  table.setBrojfajlova(workingRows(table, intValue(settings_.get(u"ghb")), markedTail()));
+  table.setBrojfajlova(workingRows(table, agree && !changing));
   savedTail_ = table.rows() - table.workingRows();
+}
+
+/// The rows that `ghb` tells, where it can be believed. Otherwise every row is the user's own save those of
+/// the Music Base, which no batch may touch.
+int DataFolder::workingRows(const TrackTable& table, bool agree) const {
+  const auto stored = storedCount(settings_.get(u"ghb"));
+  const auto marked = mark_.tail();
+  if (agree && stored && *stored <= table.rows()) return *stored;
+  const Text base = settings_.get(u"DirZaBazu");
+  int tail = table.bazaniz.empty() && marked ? *marked : baseRowsAtEnd(table, base);
+  if (tail == 0 && marked) tail = *marked;
+  if (tail == 0 && base.empty() && table.bazaniz.empty() && stored) return std::min(*stored, table.rows());
+  return std::max(table.rows() - tail, 0);
 }
 
 }  // namespace velmora::core

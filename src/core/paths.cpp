@@ -39,6 +39,12 @@ TextView bareName(TextView path) {
   return dropRight(fileName(path), 4);
 }
 
+bool within(TextView path, TextView folder) {
+  folder = withoutSeparator(folder);
+  if (folder.empty() || !path.starts_with(folder)) return false;
+  return path.size() == folder.size() || path[folder.size()] == separator || folder.back() == separator;
+}
+
 Text lastThree(TextView path) {
   return lower(right(path, 3));
 }

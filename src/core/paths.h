@@ -19,6 +19,8 @@ TextView fileName(TextView path);
 TextView folderPart(TextView path);
 /// The file's name less the last 4 characters of the path, whatever they are.
 TextView bareName(TextView path);
+/// Whether a path is this folder or lies under it, by whole parts: "/a/Rock 2" does not lie within "/a/Rock".
+bool within(TextView path, TextView folder);
 /// The last three characters in lower case: the only sense in which a file has an extension here.
 Text lastThree(TextView path);
 /// Whether a record of ours can carry the name: it holds no double quote and no line break.

@@ -11,7 +11,7 @@ void BaseList::refresh(const Text& root, TextView caption) {
   parts_.progress.setText(caption);
   std::vector<Text> found;
   FolderScan scan(parts_, FolderScan::Mode::BaseRefresh);
-  scan.onMusic = [&found](Text path) { found.push_back(std::move(path)); };
+  scan.onMusic = [&found](FoundFile file) { found.push_back(std::move(file.path)); };
   try {
     scan.Pretrazi(root);
   } catch (const platform::FileError& error) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/natural_order.h"
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/text.h"
@@ -18,11 +19,20 @@ namespace {
 
 constexpr std::int64_t textBeat = 16;  // milliseconds: no eye sees the text change faster
 
+/// The extensions as a file's last three characters are compared with them. Blanks, capitals and what stands
+/// up to a dot, as in "*.MP3", are the user's way to write them.
 std::vector<Text> enabledExtensions(const ui::Form5& form5) {
   std::vector<Text> enabled;
-  for (const auto& extension : form5.extensions)
-    if (extension.check.checked()) enabled.push_back(extension.text.text());
+  for (const auto& extension : form5.extensions) {
+    if (!extension.check.checked()) continue;
+    const Text text = core::lower(core::trim(extension.text.text()));
+    enabled.push_back(text.substr(text.rfind(u'.') + 1));  // npos + 1 is 0
+  }
   return enabled;
+}
+
+bool comesBefore(const platform::FolderEntry& left, const platform::FolderEntry& right) {
+  return core::naturalLess(left.name, right.name);
 }
 
 }  // namespace
@@ -31,55 +41,64 @@ FolderScan::FolderScan(const Parts& parts, Mode mode)
     : parts_(parts), mode_(mode), extensions_(enabledExtensions(parts.form5)) {}
 
 void FolderScan::Pretrazi(const Text& folder) {
-  walk(folder);
+  Text real = parts_.files.realPath(folder);
+  if (real == folder) real.clear();
+  walk({folder, std::move(real)});
+  while (!linked_.empty()) {
+    const std::vector<Folder> linked = std::exchange(linked_, {});
+    for (const Folder& behind : linked) walkOn(behind);
+  }
   showFound();
 }
 
-void FolderScan::walk(const Text& folder) {
-  if (parts_.table.Stop || onListAlready(folder)) return;
-  for (const Text& subfolder : takeFiles(folder)) {
-    try {
-      walk(subfolder);
-    } catch (const platform::FileError& error) {
-      platform::caughtSilently(error);
-      // A folder that cannot be read leaves the rest of the tree to be found.
-    }
+void FolderScan::walk(const Folder& folder) {
+  if (parts_.table.Stop) return;
+  for (const Folder& subfolder : takeFiles(folder)) walkOn(subfolder);
+}
+
+void FolderScan::walkOn(const Folder& folder) {
+  try {
+    walk(folder);
+  } catch (const platform::FileError& error) {
+    // A folder that cannot be read leaves the rest of the tree to be found.
+    unreadable_.add(folder.path, error.description);
   }
 }
 
-bool FolderScan::onListAlready(TextView folder) const {
-  const std::vector<Text>& added = parts_.table.bazepesama;
-  const std::size_t earlier =
-      std::min(added.size(), static_cast<std::size_t>(std::max(parts_.table.brojbaza - 1, 0)));
-  return std::any_of(
-      added.begin(), added.begin() + static_cast<std::ptrdiff_t>(earlier),
-      [folder](const Text& entry) { return !entry.empty() && folder.find(entry) != TextView::npos; });
-}
-
-std::vector<Text> FolderScan::takeFiles(const Text& folder) {
-  const platform::FolderListing listing = parts_.files.list(folder);
-  std::vector<Text> subfolders;
+std::vector<FolderScan::Folder> FolderScan::takeFiles(const Folder& folder) {
+  platform::FolderListing listing = parts_.files.list(folder.path);
+  std::vector<Folder> subfolders;
   if (!walked_.insert(listing.id).second) return subfolders;
+  std::ranges::sort(listing.entries, comesBefore);
   for (const platform::FolderEntry& entry : listing.entries) {
     if (parts_.table.Stop) return {};
     if (entry.kind == EntryKind::Other) continue;
-    if (!paths::fitsRecord(entry.name))
+    if (!paths::fitsRecord(entry.name)) {
       ++leftOut_;
-    else if (entry.kind == EntryKind::Folder)
-      subfolders.push_back(paths::join(folder, entry.name));
+      afterEntry();
+      continue;
+    }
+    Text path = paths::join(folder.path, entry.name);
+    Text real;
+    if (entry.link)
+      real = parts_.files.realPath(path);
+    else if (!folder.real.empty())
+      real = paths::join(folder.real, entry.name);
+    if (entry.kind == EntryKind::File)
+      takeFile({std::move(path), std::move(real), entry.link});
     else
-      takeFile(entry.name, paths::join(folder, entry.name));
+      (entry.link ? linked_ : subfolders).push_back({std::move(path), std::move(real)});
     afterEntry();
   }
   return subfolders;
 }
 
-void FolderScan::takeFile(TextView name, Text path) {
+void FolderScan::takeFile(FoundFile file) {
   const bool music = mode_ == Mode::BaseRefresh ||
-                     std::ranges::find(extensions_, paths::lastThree(name)) != extensions_.end();
+                     std::ranges::find(extensions_, paths::lastThree(file.path)) != extensions_.end();
   ++(music ? music_ : other_);
   const auto& taker = music ? onMusic : onOther;
-  if (taker) taker(std::move(path));
+  if (taker) taker(std::move(file));
 }
 
 void FolderScan::afterEntry() {
@@ -118,6 +137,7 @@ std::vector<Text> artistFolders(const FolderScan::Parts& parts, const Text& base
       platform::caughtSilently(error);
       // The other genres are found all the same.
     }
+    std::ranges::sort(names, core::naturalLess);
     return names;
   };
   for (const Text& genre : subfolders(base))

@@ -10,13 +10,23 @@
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "ui/form5.h"
+#include "ui/not_done.h"
 #include "ui/progress.h"
 
 namespace velmora::list {
 
-/// One walk over a tree of folders: hands out what it finds, in the order of the file system, each folder's
-/// files before its subfolders. A real folder is walked once, however many links lead to it. Subfolders that
-/// cannot be read are passed over. Ends early on Stop.
+/// A file as a scan finds it.
+struct FoundFile {
+  Text path;
+  Text real;          ///< the path with all links followed, where that is another one; else empty
+  bool link = false;  ///< the file itself is a link, to what `real` tells
+
+  const Text& realPath() const { return real.empty() ? path : real; }
+};
+
+/// One walk over a tree of folders: hands out what it finds, each folder's files before its subfolders, both
+/// in natural order. A real folder is walked once, however many links lead to it, and by its own path where
+/// it lies in the tree. Subfolders that cannot be read are passed over and noted. Ends early on Stop.
 class FolderScan {
  public:
   enum class Mode {
@@ -32,15 +42,16 @@ class FolderScan {
   };
   FolderScan(const Parts& parts, Mode mode);
 
-  std::function<void(Text path)> onMusic;
-  std::function<void(Text path)> onOther;
+  std::function<void(FoundFile file)> onMusic;
+  std::function<void(FoundFile file)> onOther;
 
-  /// Walks `folder`, less the trees that lie under an earlier entry of `bazepesama`. Throws FileError when
-  /// `folder` itself cannot be read.
+  /// Walks `folder`. Throws FileError when `folder` itself cannot be read.
   void Pretrazi(const Text& folder);
 
   /// Entries whose names no record can carry, so that they were passed over, folders with all they hold.
   int leftOut() const { return leftOut_; }
+  /// The folders that could not be read.
+  const ui::NotDone& unreadable() const { return unreadable_; }
 
  private:
   struct FolderIdHash {
@@ -49,11 +60,16 @@ class FolderScan {
       return static_cast<std::size_t>(id.node ^ (id.device * mixer));
     }
   };
+  /// A folder to be walked.
+  struct Folder {
+    Text path;
+    Text real;  // with all links followed, where that is another path; else empty
+  };
 
-  void walk(const Text& folder);
-  bool onListAlready(TextView folder) const;
-  std::vector<Text> takeFiles(const Text& folder);
-  void takeFile(TextView name, Text path);
+  void walk(const Folder& folder);
+  void walkOn(const Folder& folder);
+  std::vector<Folder> takeFiles(const Folder& folder);
+  void takeFile(FoundFile file);
   void afterEntry();
   void showFound();
 
@@ -61,9 +77,11 @@ class FolderScan {
   Mode mode_;
   std::vector<Text> extensions_;
   std::unordered_set<platform::FolderId, FolderIdHash> walked_;
+  std::vector<Folder> linked_;  // folders behind links, walked when all others are
   std::int64_t music_ = 0;
   std::int64_t other_ = 0;
   int leftOut_ = 0;
+  ui::NotDone unreadable_;
   std::int64_t entries_ = 0;
   std::optional<std::int64_t> shownAt_;  // milliseconds
 };

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "core/text.h"
 #include "list/base_list.h"
 #include "list/file_sizes.h"
+#include "list/listed_files.h"
 #include "platform/file_error.h"
 #include "platform/trace.h"
 #include "ui/display_limit.h"
@@ -22,6 +24,12 @@ namespace velmora::list {
 using core::Track;
 using platform::Buttons;
 using platform::Icon;
+
+namespace {
+
+constexpr TextView title = u"Add Files";
+
+}  // namespace
 
 FolderScan::Parts ListMaker::scanParts() const {
   return {parts_.table, parts_.files, parts_.desktop, parts_.progress, parts_.windows.form5};
@@ -50,7 +58,10 @@ void ListMaker::newList() {
   form1.Text8.setText({});
   form1.Text5.setText({});
   parts_.panel.clear();
-  for (const TextView key : {u"stanje0", u"stanje1", u"stanje2"}) parts_.settings.set(key, {});
+  {
+    const core::Settings::Together together(parts_.settings);
+    for (const TextView key : {u"stanje0", u"stanje1", u"stanje2"}) parts_.settings.set(key, {});
+  }
   removeFiles();
   form1.ostali.setEnabled(false);
   form1.listTitle.setText({});
@@ -100,26 +111,21 @@ void ListMaker::add() {
   if (folder.empty()) return;
   if (!core::paths::fitsRecord(folder)) return tellLeftOut(1);
   parts_.settings.set(u"novidir", folder);
-  if (!enterFolder(folder)) {
-    tell(u"Files in that folder are already on list.");
-    return;
-  }
   Found found;
+  found.again = std::ranges::any_of(parts_.table.bazepesama, [&folder](const Text& earlier) {
+    return core::paths::within(folder, earlier);
+  });
+  if (!found.again) enterFolder(folder);
   parts_.closing.run([&] { makeList(folder, found); });
   if (!found.readable) tell(u"This folder cannot be read.");
+  if (found.allListed) return tell(u"Files in that folder are already on list.");
   if (found.leftOut > 0) tellLeftOut(found.leftOut);
+  found.unreadable.say(parts_.dialogs, title, u"folder could not be read", u"folders could not be read");
 }
 
-/// Puts the folder on the list of added folders, unless it lies under one of them.
-bool ListMaker::enterFolder(const Text& folder) {
-  std::vector<Text>& added = parts_.table.bazepesama;
-  const bool onList = std::ranges::any_of(added, [&folder](const Text& earlier) {
-    return !earlier.empty() && folder.find(earlier) != Text::npos;
-  });
-  if (onList) return false;
-  added.push_back(folder);
-  parts_.table.brojbaza = static_cast<int>(added.size());
-  return true;
+void ListMaker::enterFolder(const Text& folder) {
+  parts_.table.bazepesama.push_back(folder);
+  parts_.table.brojbaza = static_cast<int>(parts_.table.bazepesama.size());
 }
 
 void ListMaker::leaveFolder() {
@@ -133,12 +139,10 @@ void ListMaker::makeList(const Text& folder, Found& found) {
   table.dirzabazu = parts_.settings.get(u"DirZaBazu");
   parts_.progress.show(u"Searching Music And Others Files In This Folder. Please be very patient...");
   parts_.progress.UpdateProgress(2);
-  form1.ostali.setEnabled(true);
-  if (form1.List4.ListCount() == 0) findOldArtists();
-  const bool otherRows = ui::viewOf(form1) == ui::View::Other;
-  ui::enterView(form1, ui::View::Music);
-  if (otherRows) listRows();
-  if (!findFiles(folder, found)) return;
+  if (!found.again) beginList();
+  if (!findFiles(folder, found) || found.nothingNew) return;
+  if (found.again) beginList();
+  takeFound(found);
   form1.List4.Clear();
   storeHighest();
   parts_.progress.UpdateProgress(20);
@@ -165,6 +169,15 @@ void ListMaker::makeList(const Text& folder, Found& found) {
   sumSizes(sizes);
 }
 
+void ListMaker::beginList() {
+  ui::Form1& form1 = parts_.windows.form1;
+  form1.ostali.setEnabled(true);
+  if (form1.List4.ListCount() == 0 && !parts_.table.Stop) findOldArtists();
+  const bool otherRows = ui::viewOf(form1) == ui::View::Other;
+  ui::enterView(form1, ui::View::Music);
+  if (otherRows) listRows();
+}
+
 void ListMaker::findOldArtists() {
   core::TrackTable& table = parts_.table;
   table.stariautori = {Text()};
@@ -176,23 +189,72 @@ void ListMaker::findOldArtists() {
 /// False when the folder itself cannot be read: it is then as if it had never been added.
 bool ListMaker::findFiles(const Text& folder, Found& found) {
   core::TrackTable& table = parts_.table;
-  table.setBrojfajlova(table.workingRows());
   FolderScan scan(scanParts(), FolderScan::Mode::NewMusic);
-  scan.onMusic = [this, &table](Text path) {
-    cutTail();
-    table.appendPath(std::move(path));
-    table.setBrojfajlova(table.rows());
+  // A second look must not bring back what was filed away since.
+  const bool leaveBase = found.again && !core::paths::within(folder, table.dirzabazu);
+  const auto taker = [&](std::vector<FoundFile>& into) {
+    return [&table, &into, leaveBase](FoundFile file) {
+      if (!leaveBase || !core::paths::within(file.path, table.dirzabazu)) into.push_back(std::move(file));
+    };
   };
-  scan.onOther = [&table](Text path) { table.niznomusic.push_back(std::move(path)); };
+  scan.onMusic = taker(found.music);
+  scan.onOther = taker(found.other);
   try {
     scan.Pretrazi(folder);
   } catch (const platform::FileError& error) {
     platform::caughtSilently(error);
-    leaveFolder();
+    if (!found.again) leaveFolder();
     return found.readable = false;
   }
   found.leftOut = scan.leftOut();
+  found.unreadable = scan.unreadable();
+  leaveOutListed(found);
+  found.nothingNew = found.again && found.music.empty() && found.other.empty();
+  found.allListed = found.nothingNew && !table.Stop && found.unreadable.empty();
   return true;
+}
+
+/// Leaves out of what was found the files that are listed already, by this path or through a link. A file
+/// comes before the links that lead to it, wherever they lie. A file that was no music when it was listed,
+/// and is now, changes over.
+void ListMaker::leaveOutListed(Found& found) {
+  core::TrackTable& table = parts_.table;
+  ListedFiles songs(parts_.files);
+  ListedFiles others(parts_.files);
+  for (int row = 1; row <= table.workingRows(); ++row) songs.add(table.path(row));
+  for (const Text& path : table.niznomusic) others.add(path);
+  const auto markNew = [](const std::vector<FoundFile>& files, const auto& isNew) {
+    std::vector<bool> marks(files.size());
+    for (const bool links : {false, true})
+      for (std::size_t i = 0; i < files.size(); ++i)
+        if (files[i].link == links) marks[i] = isNew(files[i]);
+    return marks;
+  };
+  const auto keepMarked = [](std::vector<FoundFile>& files, const std::vector<bool>& marks) {
+    std::size_t i = 0;
+    std::erase_if(files, [&](const FoundFile&) { return !marks[i++]; });
+  };
+  const auto music = markNew(found.music, [&](const FoundFile& file) { return songs.add(file); });
+  const auto other =
+      markNew(found.other, [&](const FoundFile& file) { return !songs.contains(file) && others.add(file); });
+  keepMarked(found.music, music);
+  keepMarked(found.other, other);
+}
+
+void ListMaker::takeFound(Found& found) {
+  core::TrackTable& table = parts_.table;
+  if (!table.niznomusic.empty() && !found.music.empty()) {
+    std::unordered_set<TextView> music;
+    for (const FoundFile& file : found.music) music.insert(file.path);
+    std::erase_if(table.niznomusic, [&music](const Text& path) { return music.contains(path); });
+  }
+  table.setBrojfajlova(table.workingRows());
+  if (!found.music.empty()) cutTail();
+  for (FoundFile& file : found.music) table.appendPath(std::move(file.path));
+  if (!found.music.empty()) table.setBrojfajlova(table.rows());
+  for (FoundFile& file : found.other) table.niznomusic.push_back(std::move(file.path));
+  found.music = {};
+  found.other = {};
 }
 
 void ListMaker::storeHighest() {
@@ -285,7 +347,7 @@ void ListMaker::tellLeftOut(int count) {
 }
 
 void ListMaker::tell(const Text& text) {
-  parts_.dialogs.message(text, u"Add Files", Buttons::Ok, Icon::Information);
+  parts_.dialogs.message(text, Text(title), Buttons::Ok, Icon::Information);
 }
 
 }  // namespace velmora::list

@@ -50,16 +50,22 @@ class ListMaker {
 
   /// Asks, then empties the list, its files and the journal. The Music Base list stays.
   void newList();
-  /// Adds the folder that the folder tree shows.
+  /// Adds the folder that the folder tree shows: the files in it that are not listed yet. So a second Add
+  /// lists what the first has missed, because it was stopped or a folder could not be read.
   void add();
   /// Asks for a folder and adds it.
   void addFolder();
 
  private:
-  /// What the user is to be told at the end of Add.
+  /// What an Add has found, and what the user is to be told of it at the end.
   struct Found {
+    bool again = false;  // the folder lies in one that was added before
     bool readable = true;
     int leftOut = 0;
+    ui::NotDone unreadable;
+    std::vector<FoundFile> music, other;  // until they are rows
+    bool nothingNew = false;
+    bool allListed = false;  // that is so because nothing was missed
   };
 
   bool busy() const { return !parts_.windows.form1.enabled(); }
@@ -68,11 +74,14 @@ class ListMaker {
   void eraseTable();
   void removeFiles();
 
-  bool enterFolder(const Text& folder);
+  void enterFolder(const Text& folder);
   void leaveFolder();
   void makeList(const Text& folder, Found& found);
+  void beginList();
   void findOldArtists();
   bool findFiles(const Text& folder, Found& found);
+  void leaveOutListed(Found& found);
+  void takeFound(Found& found);
   void storeHighest();
   void cutTail();
   void appendTail();

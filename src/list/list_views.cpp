@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/number_text.h"
+#include "core/paths.h"
 #include "core/text.h"
 #include "list/file_sizes.h"
 #include "list/other_rows.h"
@@ -65,7 +66,7 @@ void ListViews::folderTreeClick() {
   if (busy()) return;
   ui::Form1& form1 = parts_.windows.form1;
   const Text& folder = form1.folderTree.path();
-  const auto holdsFolder = [&folder](const Text& path) { return path.find(folder) != Text::npos; };
+  const auto holdsFolder = [&folder](const Text& path) { return core::paths::within(path, folder); };
   if (folder.empty() || std::ranges::none_of(parts_.table.bazepesama, holdsFolder)) return;
   for (int index = 0; index < form1.List4.ListCount(); ++index)
     if (holdsFolder(form1.List4.List(index))) return form1.List4.setTopIndex(index);

@@ -56,10 +56,13 @@ void OtherFiles::moveSelected() {
   if (!folder) return;
   ui::Failures failures(parts_.dialogs);
   rows::FileMover mover(parts_.files, failures, parts_.player);
-  const auto move = [&mover, &folder](const Text& path) {
-    const Text target = core::paths::join(*folder, core::paths::fileName(path));
-    const auto result = mover.move(path, target);
-    return Outcome{result == rows::MoveResult::Moved && target != path, result != rows::MoveResult::Abort};
+  const Text target = parts_.files.realPath(*folder);
+  const auto move = [&](const Text& path) {
+    // What lies there already stays there, and in the list.
+    const Text from(core::paths::withoutSeparator(core::paths::folderPart(path)));
+    if (from == *folder || parts_.files.realPath(from) == target) return Outcome{false, true};
+    const auto result = mover.move(path, core::paths::join(*folder, core::paths::fileName(path)));
+    return Outcome{result == rows::MoveResult::Moved, result != rows::MoveResult::Abort};
   };
   failures.during({u"Move To", u"file was not moved", u"files were not moved"},
                   static_cast<std::size_t>(parts_.windows.form8.list.SelCount()),

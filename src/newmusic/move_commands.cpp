@@ -12,6 +12,7 @@
 #include "list/file_sizes.h"
 #include "newmusic/move_names.h"
 #include "newmusic/music_undo_group.h"
+#include "newmusic/tag_scan.h"
 #include "platform/file_error.h"
 #include "platform/trace.h"
 #include "ui/quiet_lists.h"
@@ -94,8 +95,25 @@ void MoveCommands::moveTitle() {
   });
 }
 
+/// A row that was not read yet says nothing of its genre and album, and must not be filed by that. False when
+/// the reading was stopped.
+bool MoveCommands::tagsRead(MoveColumn column) {
+  const core::TrackTable& table = parts_.table;
+  const bool byTag = form2_.genreByTag.chosen() || form2_.albumByTag.chosen();
+  int row = 1;
+  while (row <= table.workingRows() && table.track(row).procitan.isTrue()) ++row;
+  if (column == MoveColumn::Title || !byTag || row > table.workingRows()) return true;
+  {
+    const base::Busy busy(parts_.windows, parts_.progress, preparing);
+    readUnreadRows(parts_.table, parts_.panel, parts_.progress);
+  }
+  if (parts_.table.Stop) parts_.summary.moze();
+  return !parts_.table.Stop;
+}
+
 void MoveCommands::run(MoveColumn column, const Text& caption,
                        const std::function<Text(MoveCollect&)>& plan) {
+  if (!tagsRead(column)) return;
   {
     const base::ActiveWindow atWork(parts_.table, core::WindowAtWork::NewMusic);
     const base::Busy busy(parts_.windows, parts_.progress, caption);

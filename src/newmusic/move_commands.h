@@ -56,6 +56,7 @@ class MoveCommands {
   /// What is the same for all four: `plan` goes through the selection and returns the name that the base is
   /// to select afterwards.
   void run(MoveColumn column, const Text& caption, const std::function<Text(MoveCollect&)>& plan);
+  bool tagsRead(MoveColumn column);
   void apply(const std::vector<PlannedMoves>& plan, journal::UndoJournal::Group& group);
   void moveAll(const std::vector<PlannedMoves>& plan, double& bytes);
   void refuse(const Text& text);

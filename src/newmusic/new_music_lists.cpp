@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/busy.h"
+#include "core/natural_order.h"
 #include "core/paths.h"
 #include "core/text.h"
 #include "newmusic/click_hold.h"
@@ -16,6 +17,11 @@
 namespace velmora::newmusic {
 
 namespace {
+
+std::vector<Text> inOrder(std::vector<Text> artists) {
+  std::ranges::sort(artists, core::naturalLess);
+  return artists;
+}
 
 /// Without the separator at its end, so that it is found in the paths below it; "/" becomes nothing.
 TextView openEnded(TextView folder) {
@@ -91,7 +97,7 @@ void NewMusicLists::List1Click() {
   for (const GenreRow& genre : genres)
     chosen.push_back({genre.index == 1 ? Text() : genre.text, genre.index});
   form2_.List5.fillItems(std::move(chosen));
-  if (!genres.empty()) form2_.List2.fill(NewMusicRows(parts_.table).artists(genres));
+  if (!genres.empty()) form2_.List2.fill(inOrder(NewMusicRows(parts_.table).artists(genres)));
   chooseFirstArtist();
 }
 
@@ -104,8 +110,9 @@ void NewMusicLists::Dir1Click() {
   clearArtists();
   const TextView folder = openEnded(form2_.Dir1.path());
   const Text novidir = parts_.settings.get(u"novidir");
-  form2_.List2.fill(folder == openEnded(novidir) ? parts_.table.autori
-                                                 : NewMusicRows(parts_.table).artistsInFolder(folder));
+  form2_.List2.fill(inOrder(folder == openEnded(novidir)
+                                ? parts_.table.autori
+                                : NewMusicRows(parts_.table).artistsInFolder(folder)));
   form2_.Combo1.setText(folderGenre());
   chooseFirstArtist();
 }
@@ -283,9 +290,12 @@ void NewMusicLists::albumsByFolder() {
 
 void NewMusicLists::artistAdded(const Text& artist) {
   if (quiet()) return;  // whoever changes many rows lists them anew
-  for (int index = 0; index < form2_.List2.ListCount(); ++index)
+  int place = 0;
+  for (int index = 0; index < form2_.List2.ListCount(); ++index) {
     if (form2_.List2.List(index) == artist) return;
-  form2_.List2.AddItem(artist);
+    if (core::naturalLess(form2_.List2.List(index), artist)) place = index + 1;
+  }
+  form2_.List2.insertItem(place, artist);
 }
 
 void NewMusicLists::artistRemoved(const Text& artist) {

@@ -34,4 +34,14 @@ void TagScan::readAll() {
   parts_.data.SaveID3nizove(table);
 }
 
+void readUnreadRows(core::TrackTable& table, tags::FilePanel& panel, ui::Progress& progress) {
+  const int shown = table.currentRow;
+  for (int row = 1; row <= table.workingRows() && !table.Stop; ++row) {
+    if (table.track(row).procitan.isTrue()) continue;
+    panel.readTags(table.path(row), row);
+    progress.UpdateProgress(100.0 * row / table.brojfajlova());
+  }
+  table.currentRow = shown;
+}
+
 }  // namespace velmora::newmusic

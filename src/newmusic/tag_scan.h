@@ -29,4 +29,7 @@ class TagScan {
   Parts parts_;
 };
 
+/// Reads the tags of all rows of the working list that were not read yet, until Stop. The current row stays.
+void readUnreadRows(core::TrackTable& table, tags::FilePanel& panel, ui::Progress& progress);
+
 }  // namespace velmora::newmusic

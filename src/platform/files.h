@@ -31,20 +31,20 @@ struct FolderId {
   auto operator<=>(const FolderId&) const = default;
 };
 
-struct FolderListing {
-  FolderId id;
-  /// In the order of the file system, without "." and "..".
-  std::vector<FolderEntry> entries;
-};
-
-/// Tells whether a path still leads to the same file with the same content: which file it is, its length, and
-/// when it was last written, in nanoseconds.
+/// Tells one state of a file from every other: a file that is written, or another one in its place, has a new
+/// stamp. All zero for what is not there.
 struct FileStamp {
   std::uint64_t device = 0;
   std::uint64_t node = 0;
   std::uint64_t bytes = 0;
-  std::int64_t written = 0;
+  std::int64_t written = 0;  ///< nanoseconds
   bool operator==(const FileStamp&) const = default;
+};
+
+struct FolderListing {
+  FolderId id;
+  /// In the order of the file system, without "." and "..".
+  std::vector<FolderEntry> entries;
 };
 
 /// One open file; destruction closes it. All operations throw FileError.
@@ -82,8 +82,10 @@ class Files {
   virtual bool folderExists(const Text& path) = 0;
   /// Length of a file in bytes.
   virtual std::uint64_t size(const Text& path) = 0;
-  /// That of the open file that this path leads to.
+  /// That of the file that this path leads to; all zero when there is none. Never throws.
   virtual FileStamp stamp(const Text& /*path*/) { return {}; }
+  /// The path with all links followed; the path itself where it leads nowhere. Never throws.
+  virtual Text realPath(const Text& path) { return path; }
 
   /// Opens a regular file that exists; a pipe or device is refused unopened with pathAccess.
   virtual std::unique_ptr<OpenFile> open(const Text& path, OpenMode mode) = 0;
@@ -91,8 +93,16 @@ class Files {
   virtual std::unique_ptr<OpenFile> create(const Text& path) = 0;
   /// The whole content.
   virtual Bytes readAll(const Text& path) = 0;
+  /// Writes `bytes` beside a file of the program's own, begins to bring them to the disk, and returns where
+  /// they are, for `replace` to put them into the place of `path`. The name depends on `path` alone, so that
+  /// what a kill leaves is written over by the next save.
+  virtual Text writeBeside(const Text& path, BytesView bytes) {
+    Text beside = path + u".new";
+    create(beside)->writeAt(0, bytes);
+    return beside;
+  }
   /// Makes `bytes` the whole content of a file of the program's own (never of a song), creating it if
-  /// missing.
+  /// missing: written beside it, brought to the disk and put in its place in one step.
   virtual void writeAll(const Text& path, BytesView bytes) = 0;
   /// Adds `bytes` behind the content and flushes them to the system, creating the file if missing.
   virtual void append(const Text& path, BytesView bytes) = 0;

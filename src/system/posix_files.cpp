@@ -169,7 +169,16 @@ std::uint64_t PosixFiles::size(const Text& path) {
 }
 
 platform::FileStamp PosixFiles::stamp(const Text& path) {
-  return stampOf(statusOf(nativePath(path)));
+  struct stat status;
+  const bool known = path.find(u'\0') == Text::npos && ::stat(core::toBytes(path).c_str(), &status) == 0;
+  return known ? stampOf(status) : platform::FileStamp();
+}
+
+Text PosixFiles::realPath(const Text& path) {
+  if (path.find(u'\0') != Text::npos) return path;
+  const std::unique_ptr<char, decltype(&::free)> found(::realpath(core::toBytes(path).c_str(), nullptr),
+                                                       &::free);
+  return found ? core::fromBytes(found.get()) : path;
 }
 
 std::unique_ptr<platform::OpenFile> PosixFiles::open(const Text& path, platform::OpenMode mode) {
@@ -203,23 +212,31 @@ Bytes PosixFiles::readAll(const Text& path) {
   return content;
 }
 
-void PosixFiles::writeAll(const Text& path, BytesView bytes) {
-  const Bytes native = nativePath(path);
-  Descriptor file = openOwn(native, O_WRONLY);
-  const struct stat before = statusOf(file, native);
-  requireUsable(before, O_WRONLY);
-  const auto oldSize = static_cast<std::uint64_t>(before.st_size);
-  // What goes beyond the old content comes first, since that alone needs room: a full disk leaves the old
-  // content as it was.
-  const std::size_t inPlace = std::min<std::size_t>(bytes.size(), oldSize);
-  if (const int code = writeFully(file.get(), bytes.substr(inPlace), inPlace)) {
-    [[maybe_unused]] const int cut = ::ftruncate(file.get(), static_cast<off_t>(oldSize));
+Text PosixFiles::writeBeside(const Text& path, BytesView bytes) {
+  Text beside = path + u".new";
+  const Bytes native = nativePath(beside);
+  // What a kill has left goes; no other program writes under this name.
+  if (::unlink(native.c_str()) != 0 && errno != ENOENT) throwErrno(native);
+  Descriptor file = createFile(native, O_WRONLY);
+  int code = writeFully(file.get(), bytes, 0);
+  // Begun for several files before the first is waited for, the disk needs one round for all of them.
+  if (code == 0) ::sync_file_range(file.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
+  if (const int closed = file.close(); code == 0) code = closed;
+  if (code != 0) {
+    ::unlink(native.c_str());
     throwFileError(code, native);
   }
-  if (const int code = writeFully(file.get(), bytes.substr(0, inPlace), 0)) throwFileError(code, native);
-  if (bytes.size() < oldSize && ::ftruncate(file.get(), static_cast<off_t>(bytes.size())) != 0)
-    throwErrno(native);
-  if (const int code = file.close()) throwFileError(code, native);
+  return beside;
+}
+
+void PosixFiles::writeAll(const Text& path, BytesView bytes) {
+  const Text beside = writeBeside(path, bytes);
+  try {
+    replace(beside, path);
+  } catch (const FileError&) {
+    ::unlink(nativePath(beside).c_str());
+    throw;
+  }
 }
 
 void PosixFiles::append(const Text& path, BytesView bytes) {

@@ -15,9 +15,11 @@ class PosixFiles final : public platform::Files {
   bool folderExists(const Text& path) override;
   std::uint64_t size(const Text& path) override;
   platform::FileStamp stamp(const Text& path) override;
+  Text realPath(const Text& path) override;
   std::unique_ptr<platform::OpenFile> open(const Text& path, platform::OpenMode mode) override;
   std::unique_ptr<platform::OpenFile> create(const Text& path) override;
   Bytes readAll(const Text& path) override;
+  Text writeBeside(const Text& path, BytesView bytes) override;
   void writeAll(const Text& path, BytesView bytes) override;
   void append(const Text& path, BytesView bytes) override;
   void makeFolder(const Text& path) override;

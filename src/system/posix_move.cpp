@@ -199,7 +199,11 @@ void replaceFile(const Bytes& from, const Bytes& to) {
     const bool readOnly = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
     if (readOnly || ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
       throw FileError(FileError::permissionDenied);
-    takeModeAndOwner(finished.get(), old);
+    // A change of them that is none would only cost the disk another round.
+    struct stat made;
+    if (::fstat(finished.get(), &made) != 0) throwErrno(from);
+    if (made.st_mode != old.st_mode || made.st_uid != old.st_uid || made.st_gid != old.st_gid)
+      takeModeAndOwner(finished.get(), old);
     const Descriptor song(
         untilDone([&] { return ::open(target.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
     if (song.valid()) takeAttributes(finished.get(), song.get());

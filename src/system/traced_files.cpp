@@ -159,6 +159,12 @@ Bytes TracedFiles::readAll(const Text& path) {
   return run(trace_, named("readAll", path), [&] { return files_.readAll(path); });
 }
 
+Text TracedFiles::writeBeside(const Text& path, BytesView bytes) {
+  Text beside;
+  run(trace_, named("writeBeside", path, bytes), [&] { beside = files_.writeBeside(path, bytes); });
+  return beside;
+}
+
 void TracedFiles::writeAll(const Text& path, BytesView bytes) {
   run(trace_, named("writeAll", path, bytes), [&] { files_.writeAll(path, bytes); });
 }

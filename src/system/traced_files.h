@@ -23,6 +23,8 @@ class TracedFiles final : public platform::Files {
   std::unique_ptr<platform::OpenFile> open(const Text& path, platform::OpenMode mode) override;
   std::unique_ptr<platform::OpenFile> create(const Text& path) override;
   Bytes readAll(const Text& path) override;
+  Text realPath(const Text& path) override { return files_.realPath(path); }
+  Text writeBeside(const Text& path, BytesView bytes) override;
   void writeAll(const Text& path, BytesView bytes) override;
   void append(const Text& path, BytesView bytes) override;
   void makeFolder(const Text& path) override;

@@ -158,6 +158,7 @@ void OptionStore::loadForm5() {
 }
 
 void OptionStore::saveForm5() {
+  const core::Settings::Together together(settings_);
   const Form5& form = windows_.form5;
   for (std::size_t i = 0; i < extensionKeys.size(); ++i) {
     const Extension& extension = form.extensions[i];
@@ -172,6 +173,7 @@ void OptionStore::loadForm6() {
 }
 
 void OptionStore::saveForm6() {
+  const core::Settings::Together together(settings_);
   saveAll(settings_, form6Checks(windows_.form6));
   saveAll(settings_, form6Options(windows_.form6));
 }
@@ -191,6 +193,7 @@ void OptionStore::loadForm7() {
 }
 
 void OptionStore::saveForm7() {
+  const core::Settings::Together together(settings_);
   const Form7& form = windows_.form7;
   settings_.setBoolean(u"dupli", form.similarFilename.chosen());
   settings_.setBoolean(u"duplk", form.completeTheSame.chosen());
@@ -211,6 +214,7 @@ void OptionStore::loadDialog2() {
 }
 
 void OptionStore::saveDialog2() {
+  const core::Settings::Together together(settings_);
   saveAll(settings_, dialog2Checks(windows_.dialog2));
   saveAll(settings_, dialog2Options(windows_.dialog2));
 }

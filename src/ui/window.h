@@ -19,11 +19,6 @@ struct Placement {
   bool operator==(const Placement&) const = default;
 };
 
-/// Where a window of design size goes when no place was stored: near the middle of a screen, in twips.
-inline Placement nearMiddle(int screenWidth, int screenHeight) {
-  return {screenWidth / 2 - 6000, screenHeight / 2 - 3000, 0, 0};
-}
-
 /// What every window has besides its controls. Windows start hidden and enabled. A disabled window lets
 /// nothing through to its controls.
 class Window : public Observable {

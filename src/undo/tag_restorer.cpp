@@ -7,6 +7,7 @@
 #include "core/number_text.h"
 #include "platform/file_error.h"
 #include "platform/trace.h"
+#include "rows/listed_size.h"
 #include "rows/row_keeper.h"
 #include "tags/genre.h"
 #include "tags/id3v1.h"
@@ -107,6 +108,7 @@ UndoOutcome TagRestorer::restore(int row, const journal::RowSnapshot& before) {
   if (!parts_.files.fileExists(path)) return UndoOutcome::Done;
 
   const platform::FileHandOver handOver(parts_.player, path);
+  const rows::ListedSize size(parts_.table, parts_.files, row);
   // As long as such a tag is there its column says so, and an undo that is tried again finds it.
   track.imaid3v1 = before.imaid3v1 || madeID3v1;
   track.imaid3v2 = before.imaid3v2 || madeID3v2;

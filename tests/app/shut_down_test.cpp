@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/data_folder.h"
 #include "core/number_text.h"
 #include "core/text.h"
 #include "tests/support/headless_velmora.h"
@@ -118,6 +119,48 @@ TEST_F(ShutDownTest, EndDuringACommandStopsItFirstAndStoresAWholeTable) {
   program.restart();
   EXPECT_EQ(program.table().brojfajlova(), stored);
   EXPECT_EQ(program.table().rows(), stored);
+}
+
+TEST_F(ShutDownTest, WhatAnotherInstanceHasSavedMeanwhileIsKeptAndTold) {
+  addSongs();
+  core::DataFolder other(program.files, program.settings, program.programFolder());
+  core::TrackTable theirs;
+  other.readNames(theirs);
+  other.readTags(theirs);
+  theirs.removeRow(1);
+  theirs.appendPath(program.song(u"there/Kora - Rain.mp3"));
+  theirs.resizeColumns();
+  theirs.setBrojfajlova(2);
+  other.SaveID3nizove(theirs);
+  other.savenizove(theirs);
+  program.dialogs.expect(
+      u"Another instance of this program has saved its list meanwhile. Its files that are not on this list "
+      u"were "
+      u"kept (1): the next start shows them. All tags will be read again.",
+      u"Velmora", platform::Answer::Ok);
+  program.restart();
+  const core::TrackTable& table = program.table();
+  ASSERT_EQ(table.brojfajlova(), 3);
+  EXPECT_EQ(table.path(3), theirs.path(2));
+  EXPECT_EQ(table.autori, (std::vector<Text>{u"ABBA ", u"", u"Kora "}));
+  for (int row = 1; row <= 3; ++row) EXPECT_TRUE(table.track(row).imaid3v1.isNothing());
+}
+
+TEST_F(ShutDownTest, WhatIsNoChoiceOfSongsAndNoChoiceWithItsOkIsNotStored) {
+  addSongs();
+  program.form1().ostali.click();
+  program.form1().List4.select({0}, 0);
+  program.desktop.then([&] {
+    program.windows().form7.differentFilename.click();
+    program.form3().closeRequest();
+  });
+  program.form1().duplicateOptions.click();
+  EXPECT_TRUE(program.app().ended());
+  EXPECT_EQ(program.settings.get(u"dupli"), u"True");
+  program.forget();
+  program.start();
+  EXPECT_EQ(program.form1().List4.SelCount(), 0);
+  EXPECT_TRUE(program.windows().form7.similarFilename.chosen());
 }
 
 TEST_F(ShutDownTest, EndDuringAModalWindowClosesThatFirst) {

@@ -105,6 +105,22 @@ TEST_F(StartUpTest, ListHoldsTheWorkingRowsAndNotTheTail) {
   EXPECT_EQ(program.form1().folderTree.path(), program.musicFolder()) << "the nearest folder that is there";
 }
 
+TEST_F(StartUpTest, BeyondTheDisplayLimitRowsAreLoadedButNotShown) {
+  storeList(std::vector<Text>(32738, u"a.mp3"));
+  program.start();
+  EXPECT_EQ(program.table().brojfajlova(), 32738);
+  EXPECT_EQ(program.form1().List4.ListCount(), 32736);
+}
+
+TEST_F(StartUpTest, DashesAndArtistsAreFoundAnewWhereTheirFilesSpeakOfOtherRows) {
+  storeList({u"ABBA - Waterloo.mp3", u"Kora - Rain.mp3"});
+  program.folder.write(u"program/Data/crtapos.txt", "\" 6\"\r\n");
+  program.folder.write(u"program/Data/autori.txt", "\"nobody\"\r\n");
+  program.start();
+  EXPECT_EQ(program.table().track(2).pevac.text(), u"Kora ");
+  EXPECT_EQ(program.table().autori, (std::vector<Text>{u"ABBA ", u"Kora "}));
+}
+
 TEST_F(StartUpTest, ReviewIsResumedInTheProcessingWindowAlone) {
   for (const auto& [front, stored, resumed] : {std::tuple{u"1", u" 1", "fix"},
                                                {u"1", u" 11", "fix"},

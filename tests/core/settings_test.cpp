@@ -62,6 +62,28 @@ TEST_F(SettingsTest, AReadOnlyFileStaysAndNoFailureShows) {
   EXPECT_EQ(settings.get(u"ton"), u"1");
 }
 
+TEST_F(SettingsTest, AFileThatCannotBeReadIsMovedAside) {
+  folder.write(u"Settings.ini/in its place", "a folder");
+  EXPECT_EQ(settings.get(u"ghb"), u"");
+  EXPECT_TRUE(settings.set(u"ghb", u" 1"));
+  EXPECT_EQ(settings.get(u"ghb"), u" 1");
+  EXPECT_EQ(folder.read(u"Settings.ini.kept/in its place"), "a folder");
+}
+
+TEST_F(SettingsTest, KeysThatAreStoredTogetherArriveAtTheEnd) {
+  settings.set(u"a1", u"x");
+  const Bytes before = read();
+  {
+    const Settings::Together outer(settings);
+    const Settings::Together inner(settings);
+    settings.set(u"a1", u"y");
+    settings.set(u"b1", u"z");
+    EXPECT_EQ(settings.get(u"a1"), u"y");
+    EXPECT_EQ(read(), before);
+  }
+  EXPECT_EQ(read(), "\"A1  y\"\r\n\"B1  z\"\r\n");
+}
+
 // What is left of a settings file that was cut while it was written, and then used on.
 TEST_F(SettingsTest, CutAnywhereItKeepsTheWholeLinesAndTakesNewOnes) {
   const Bytes whole = "\"GHB   1200\"\r\n\"NOVIDIR  /home/me/\xC5\xA1\"\r\n\"TON  7\"\r\n";

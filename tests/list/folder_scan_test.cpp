@@ -20,8 +20,8 @@ struct FolderScanTest : test::ListWorld {
     music.clear();
     other.clear();
     FolderScan walk({table, files, desktop, progress, windows.form5}, mode);
-    walk.onMusic = [this](Text path) { music.push_back(std::move(path)); };
-    walk.onOther = [this](Text path) { other.push_back(std::move(path)); };
+    walk.onMusic = [this](FoundFile file) { music.push_back(std::move(file.path)); };
+    walk.onOther = [this](FoundFile file) { other.push_back(std::move(file.path)); };
     walk.Pretrazi(folder.path(below));
     leftOut = walk.leftOut();
     inOrder = music;
@@ -56,14 +56,16 @@ TEST_F(FolderScanTest, TheLastThreeCharactersTellMusicFromOtherFiles) {
   EXPECT_EQ(windows.dialog1.text.text(), u"Refresh Music Base List (found 9 music files).");
 }
 
-TEST_F(FolderScanTest, TreesUnderAnEarlierEntryAreSkippedByTheirText) {
-  folder.write(u"music/old/a.mp3", "");
-  folder.write(u"music/older/b.mp3", "");
-  const Text c = folder.write(u"music/new/c.mp3", "");
-  table.bazepesama = {folder.path(u"music/old"), folder.path(u"music")};
-  table.brojbaza = 2;
+TEST_F(FolderScanTest, FilesAndFoldersComeInNaturalOrder) {
+  for (const TextView name : {u"music/10 x.mp3", u"music/2 x.mp3", u"music/02 y.mp3", u"music/B.mp3",
+                              u"music/a.mp3", u"music/CD 10/a.mp3", u"music/cd 9/a.mp3", u"music/CD 2/a.mp3"})
+    folder.write(name, "");
   scan();
-  EXPECT_EQ(music, Texts{c}) << "a path that merely holds the entry's text is skipped too";
+  Texts expected;
+  for (const TextView name : {u"music/2 x.mp3", u"music/02 y.mp3", u"music/10 x.mp3", u"music/a.mp3",
+                              u"music/B.mp3", u"music/CD 2/a.mp3", u"music/cd 9/a.mp3", u"music/CD 10/a.mp3"})
+    expected.push_back(folder.path(name));
+  EXPECT_EQ(inOrder, expected);
 }
 
 TEST_F(FolderScanTest, CircularLinksEndAndLinkedFilesCount) {

@@ -61,19 +61,82 @@ TEST_F(ListMakerTest, AFolderBecomesRowsWithPartsArtistsAndSizes) {
 
 TEST_F(ListMakerTest, AFolderUnderAnAddedOneIsRefusedAndAParentAddsTheRest) {
   const Text a = song(u"music/one/a.mp3");
+  const Text deep = song(u"music/one/deep/d.mp3");
+  const Text more = song(u"music/one and more/c.mp3");
   const Text b = song(u"music/two/b.mp3");
   add(u"music/one/");
-  for (const TextView known : {u"music/one", u"music/one/deep", u"music/one and more"}) {
+  for (const TextView known : {u"music/one", u"music/one/deep"}) {
     dialogs.expect(u"Files in that folder are already on list.", u"Add Files", Answer::Ok);
     add(known);
     EXPECT_EQ(table.brojbaza, 1);
   }
-  EXPECT_EQ(working(), Texts{a});
+  EXPECT_EQ(working(), sorted({a, deep}));
+  add(u"music/one and more");
+  add(u"music");
+  EXPECT_EQ(paths(1, 2), sorted({a, deep}));
+  EXPECT_EQ(working(), sorted({a, deep, more, b}));
+  EXPECT_EQ(table.bazepesama,
+            (Texts{folder.path(u"music/one"), folder.path(u"music/one and more"), folder.path(u"music")}));
+  expectSaved();
+}
+
+TEST_F(ListMakerTest, WhatAScanMissedIsListedByTheNextWithoutDoubles) {
+  for (const TextView name : {u"music/a.mp3", u"music/b.mp3", u"music/sub/c.mp3", u"music/sub/d.txt"})
+    song(name);
+  std::filesystem::create_directory_symlink("loop", core::toBytes(folder.path(u"music/z")));
+  desktop.then([] {});  // the pump at which the progress window opens
+  desktop.then([this] { progress.stop(); });
+  add(u"music");
+  EXPECT_EQ(table.brojfajlova(), 1);
+  table.Stop = false;
+
+  // A folder that goes between the look at its parent and its own stands for one that cannot be read.
+  files.onOperation = [this] {
+    if (files.log.back().ends_with("music/sub")) files.failAt(1, platform::FileError::permissionDenied);
+  };
+  dialogs.expect(u"1 folder could not be read: Permission denied.\n\n" + folder.path(u"music/sub"),
+                 u"Add Files", Answer::Ok);
+  add(u"music");
+  files.onOperation = nullptr;
+  EXPECT_EQ(table.brojfajlova(), 2);
+
+  windows.form5.extensions[6].check.setChecked(true);
+  windows.form5.extensions[6].text.setText(u" *.TXT");
+  add(u"music");
+  EXPECT_EQ(table.brojfajlova(), 4);
+  EXPECT_EQ(table.brojbaza, 1);
+  windows.form5.extensions[6].check.setChecked(false);
+  dialogs.expectTitle(u"Add Files", Answer::Ok);
+  add(u"music");
+  EXPECT_EQ(table.niznomusic, Texts{}) << "listed as music already";
+  expectSaved();
+}
+
+TEST_F(ListMakerTest, ASongUnderTwoPathsIsOneRow) {
+  const Text a = song(u"music/in/a.mp3");
+  const Text b = song(u"music/real/b.mp3");
+  for (const auto& [name, target] : {std::pair{u"music/in/0 first.mp3", a},
+                                     {u"music/in/outside.mp3", b},
+                                     {u"music/way", folder.path(u"music/in")}})
+    std::filesystem::create_symlink(core::toBytes(target), core::toBytes(folder.path(name)));
+  add(u"music/in");
+  EXPECT_EQ(working(), sorted({a, folder.path(u"music/in/outside.mp3")}));
+  for (const TextView again : {u"music/way", u"music/real"}) add(again);
+  EXPECT_EQ(table.brojfajlova(), 2);
+  EXPECT_EQ(table.brojbaza, 3);
+}
+
+TEST_F(ListMakerTest, ABaseUnderAnAddedFolderIsRefreshedAndNotBroughtBack) {
+  useBase();
+  settings.set(u"DirZaBazu", folder.path(u"music/base"));
+  const Text a = song(u"music/new/a.mp3");
+  folder.mkdir(u"music/base");
+  add(u"music");
+  const Text filed = song(u"music/base/Rock/Arvola/filed.mp3");
+  const Text b = song(u"music/new/b.mp3");
   add(u"music");
   EXPECT_EQ(working(), sorted({a, b}));
-  EXPECT_EQ(table.path(1), a);
-  EXPECT_EQ(table.bazepesama, (Texts{folder.path(u"music/one"), folder.path(u"music")}));
-  expectSaved();
+  EXPECT_EQ(tail(), Texts{filed});
 }
 
 TEST_F(ListMakerTest, ARefreshListsTheBaseBehindTheWorkingListAndReadsTags) {

@@ -110,8 +110,15 @@ Bytes FaultFiles::readAll(const Text& path) {
   return real_.readAll(path);
 }
 
+Text FaultFiles::writeBeside(const Text& path, BytesView bytes) {
+  Text beside;
+  write("writeBeside", path, bytes, [&](BytesView part) { beside = real_.writeBeside(path, part); });
+  return beside;
+}
+
 void FaultFiles::writeAll(const Text& path, BytesView bytes) {
-  write("writeAll", path, bytes, [&](BytesView part) { real_.writeAll(path, part); });
+  step("writeAll", path);
+  real_.writeAll(path, bytes);
 }
 
 void FaultFiles::append(const Text& path, BytesView bytes) {

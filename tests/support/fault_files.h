@@ -44,6 +44,8 @@ class FaultFiles final : public platform::Files {
   std::unique_ptr<platform::OpenFile> open(const Text& path, platform::OpenMode mode) override;
   std::unique_ptr<platform::OpenFile> create(const Text& path) override;
   Bytes readAll(const Text& path) override;
+  Text realPath(const Text& path) override { return real_.realPath(path); }
+  Text writeBeside(const Text& path, BytesView bytes) override;
   void writeAll(const Text& path, BytesView bytes) override;
   void append(const Text& path, BytesView bytes) override;
   void makeFolder(const Text& path) override;
