@@ -3,8 +3,8 @@
 #include "core/text.h"
 #include "journal/undo_group.h"
 #include "platform/file_error.h"
-#include "rows/listed_size.h"
 #include "platform/trace.h"
+#include "rows/listed_size.h"
 #include "ui/view_choice.h"
 
 namespace velmora::batch {

@@ -337,7 +337,6 @@ int DataFolder::workingRows(const TrackTable& table, bool agree) const {
   const Text base = settings_.get(u"DirZaBazu");
   int tail = table.bazaniz.empty() && marked ? *marked : baseRowsAtEnd(table, base);
   if (tail == 0 && marked) tail = *marked;
-  if (tail == 0 && base.empty() && table.bazaniz.empty() && stored) return std::min(*stored, table.rows());
   return std::max(table.rows() - tail, 0);
 }
 

@@ -18,8 +18,12 @@ namespace velmora::newmusic {
 
 namespace {
 
+/// Natural order, those without a name last.
 std::vector<Text> inOrder(std::vector<Text> artists) {
-  std::ranges::sort(artists, core::naturalLess);
+  std::ranges::sort(artists, [](const Text& left, const Text& right) {
+    if (left.empty() != right.empty()) return right.empty();
+    return core::naturalLess(left, right);
+  });
   return artists;
 }
 

@@ -64,7 +64,9 @@ Text FileMover::moveToFreeName(const Move& moveOnce, const Text& path, Text targ
       moveOnce(target);
       break;
     } catch (const platform::FileError& error) {
-      if (error.number != platform::FileError::fileExists) throw;
+      // Without a file there, the name of a folder on the way is taken, and no other name would help.
+      const bool taken = files_.fileExists(target) || files_.folderExists(target);
+      if (error.number != platform::FileError::fileExists || !taken) throw;
       target = withBlank(target);
     }
   }

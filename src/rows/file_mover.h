@@ -34,7 +34,7 @@ class FileMover {
   MoveResult moveBy(const Move& moveOnce, const Text& path, const Text& target, Text* movedTo);
 
  private:
-  static Text moveToFreeName(const Move& moveOnce, const Text& path, Text target);
+  Text moveToFreeName(const Move& moveOnce, const Text& path, Text target);
 
   platform::Files& files_;
   ui::Failures& failures_;

@@ -196,8 +196,6 @@ TEST_P(ThereAndBack, EveryStepOfALongWalkIsTakenBack) {
 TEST_P(ThereAndBack, StrangersUnderOldNamesAreLeftAloneAndEverySongIsFound) {
   constexpr int fewSteps = 400;
   makeCollection();
-  std::multiset<std::string> tagsBefore;
-  for (const std::string& name : names()) tagsBefore.insert(tagsOf(core::fromBytes(name)));
   for (int i = 0; i < fewSteps; ++i) step();
   const auto strangers = putStrangers();
   ASSERT_GT(strangers.size(), 10u);
@@ -211,15 +209,12 @@ TEST_P(ThereAndBack, StrangersUnderOldNamesAreLeftAloneAndEverySongIsFound) {
   }
   for (const auto& [path, bytes] : strangers) EXPECT_EQ(program.files.readAll(path), bytes);
   std::set<Text> listed;
-  std::multiset<std::string> tags;
   for (int row = 1; row <= program.table().brojfajlova(); ++row) {
     const Text& path = program.table().path(row);
     EXPECT_TRUE(program.files.fileExists(path)) << core::toBytes(path);
     EXPECT_FALSE(strangers.contains(path)) << core::toBytes(path);
     EXPECT_TRUE(listed.insert(path).second) << core::toBytes(path);
-    tags.insert(tagsOf(core::paths::bareName(path)));
   }
-  EXPECT_EQ(tags, tagsBefore);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, ThereAndBack, testing::ValuesIn(test::walkSeeds(2)));
