@@ -31,11 +31,11 @@ std::string inWords(const std::exception& error) {
   return words;
 }
 
-void caughtSilently(const std::exception& error, std::source_location where) noexcept {
+void caughtSilently(const std::exception& error, const char* file, int line) noexcept {
   if (!current) return;
   try {
-    current->line("caught " + inWords(error) + " at " + std::string(fileName(where.file_name())) + ':' +
-                  std::to_string(where.line()));
+    current->line("caught " + inWords(error) + " at " + std::string(fileName(file)) + ':' +
+                  std::to_string(line));
   } catch (const std::exception&) {
     // A trace that lacks a line is better than a program that ends for it.
   }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <exception>
-#include <source_location>
 #include <string>
 #include <string_view>
 
@@ -28,7 +27,7 @@ std::string inWords(const std::exception& error);
 
 /// Called where an error is caught and the user is not told of it. Leaves a line with the place of the call
 /// in the trace, if there is one.
-void caughtSilently(const std::exception& error,
-                    std::source_location where = std::source_location::current()) noexcept;
+void caughtSilently(const std::exception& error, const char* file = __builtin_FILE(),
+                    int line = __builtin_LINE()) noexcept;
 
 }  // namespace velmora::platform
